@@ -1,0 +1,52 @@
+# The one place to start: `make demo` shows the viewer, `make test` builds and runs every test.
+SAMPLE ?= viewer/samples/feature_film.otio
+PICTURE ?= build/demo.png
+
+RELEASE := build/release
+VIEWER := $(RELEASE)/bin/murtimeline-viewer
+BENCH := $(RELEASE)/bin/mur_bench
+
+.DEFAULT_GOAL := help
+.PHONY: help demo test viewer bench format check coverage packages
+
+help: ## this list
+	@awk -F ': .*## ' '/^[a-z]+: .*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
+
+demo: viewer ## show SAMPLE in the viewer; without a display, write the picture PICTURE
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
+	  $(VIEWER) $(SAMPLE); \
+	else \
+	  QT_QPA_PLATFORM=offscreen $(VIEWER) $(SAMPLE) --png $(PICTURE) && echo $(PICTURE); \
+	fi
+
+test: packages ## build and run all tests, plain and under the sanitizers
+	@tools/run_tests
+
+viewer: packages ## build the viewer
+	@cmake --preset release
+	@cmake --build $(RELEASE) --target murtimeline-viewer
+
+bench: packages ## build and run the benchmarks
+	@cmake --preset release
+	@cmake --build $(RELEASE) --target mur_bench
+	@$(BENCH)
+
+format: ## lay out all sources with clang-format
+	@tools/install-packages format
+	@tools/list_sources | xargs clang-format -i
+
+check: packages ## what a machine can say about the sources without running them
+	@tools/install-packages format tidy
+	@tools/check_layers
+	@tools/check_file_sizes
+	@tools/list_sources | xargs clang-format --dry-run --Werror
+	@cmake --preset core
+	@tools/tidy
+	@cmake --build build/core --target all_verify_interface_header_sets
+
+coverage: packages ## line and branch coverage of the core
+	@tools/install-packages coverage
+	@tools/coverage
+
+packages:
+	@tools/install-packages

@@ -1,0 +1,23 @@
+# What outside projects find the installed library by: the CMake package and the pkg-config file.
+include(CMakePackageConfigHelpers)
+
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/MURTimelineConfig.cmake.in
+  ${CMAKE_CURRENT_BINARY_DIR}/MURTimelineConfig.cmake INSTALL_DESTINATION ${MUR_PACKAGE_FOLDER})
+# Before 1.0 every minor version may break hosts.
+write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/MURTimelineConfigVersion.cmake
+  COMPATIBILITY SameMinorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/MURTimelineConfig.cmake
+  ${CMAKE_CURRENT_BINARY_DIR}/MURTimelineConfigVersion.cmake DESTINATION ${MUR_PACKAGE_FOLDER})
+
+# The prefix is known for sure at install time only: `cmake --install --prefix` may change it.
+cmake_path(APPEND MUR_PC_LIBDIR "\${prefix}" ${CMAKE_INSTALL_LIBDIR})
+cmake_path(APPEND MUR_PC_INCLUDEDIR "\${prefix}" ${CMAKE_INSTALL_INCLUDEDIR})
+set(pcFolder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(CODE "
+  set(PROJECT_VERSION [[${PROJECT_VERSION}]])
+  set(PROJECT_DESCRIPTION [[${PROJECT_DESCRIPTION}]])
+  set(MUR_PC_LIBDIR [[${MUR_PC_LIBDIR}]])
+  set(MUR_PC_INCLUDEDIR [[${MUR_PC_INCLUDEDIR}]])
+  configure_file([[${CMAKE_CURRENT_LIST_DIR}/murtimeline.pc.in]] [[${CMAKE_CURRENT_BINARY_DIR}/murtimeline.pc]] @ONLY)")
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/murtimeline.pc DESTINATION ${pcFolder})
+install(FILES README.md LICENSE CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})

@@ -1,0 +1,45 @@
+# The kinds of target that the project's folders consist of.
+
+# One layer of the core: an object library of all sources in its folder, which may use the layers named after
+# it (see the layer rule in docs/architecture.md). A folder with headers alone is a layer too.
+function(mur_add_layer LAYER)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  list(FILTER sources EXCLUDE REGEX "_win32\\.cpp$")
+  if(sources)
+    add_library(${LAYER} OBJECT ${sources})
+    target_link_libraries(${LAYER} PUBLIC mur_settings ${ARGN})
+    set_property(GLOBAL APPEND PROPERTY MUR_CORE_OBJECTS $<TARGET_OBJECTS:${LAYER}>)
+  else()
+    add_library(${LAYER} INTERFACE)
+    target_link_libraries(${LAYER} INTERFACE mur_settings ${ARGN})
+  endif()
+endfunction()
+
+# One test program of all test_*.cpp in its folder.
+function(mur_add_tests NAME)
+  file(GLOB sources CONFIGURE_DEPENDS test_*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${NAME} ${sources})
+  target_link_libraries(${NAME} PRIVATE mur_settings mur_test_support ${ARGN} GTest::gmock)
+  target_include_directories(${NAME} PRIVATE ${CMAKE_SOURCE_DIR})
+  add_test(NAME ${NAME} COMMAND ${NAME})
+endfunction()
+
+# A library that hosts link: its version, the headers below FOLDERS (all of them public) and its place in the
+# installed package. It is MURTimeline::COMPONENT in this tree and in theirs.
+function(mur_publish_library TARGET COMPONENT)
+  list(TRANSFORM ARGN APPEND /*.h OUTPUT_VARIABLE patterns)
+  list(TRANSFORM patterns PREPEND ${PROJECT_SOURCE_DIR}/murtimeline/)
+  file(GLOB_RECURSE headers CONFIGURE_DEPENDS ${patterns})
+  target_sources(${TARGET} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${headers})
+  target_compile_features(${TARGET} INTERFACE cxx_std_20)
+  set_target_properties(${TARGET} PROPERTIES EXPORT_NAME ${COMPONENT} VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+  add_library(MURTimeline::${COMPONENT} ALIAS ${TARGET})
+  install(TARGETS ${TARGET} EXPORT MURTimeline${COMPONENT}Targets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  install(EXPORT MURTimeline${COMPONENT}Targets NAMESPACE MURTimeline::
+    DESTINATION ${MUR_PACKAGE_FOLDER})
+endfunction()
