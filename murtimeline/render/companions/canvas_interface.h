@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+
+#include <murtimeline/automation/event.h>
+#include <murtimeline/automation/export.h>
+#include <murtimeline/render/companions/canvas_item_interface.h>
+#include <murtimeline/render/port/geometry.h>
+
+namespace mur {
+
+/// The drawing canvas, as the control needs it. Pointer and drag reports join its events with the
+/// interaction.
+class MUR_API IGraphicCanvas : public Object {
+ public:
+  /// The canvas needs a full redraw. Raised by the canvas when its drawing area changes.
+  Event<> Repaint;
+
+  virtual OleColor BackColor() const = 0;
+  virtual void SetBackColor(OleColor ColorA) = 0;
+  virtual std::int16_t OLEDropMode() const = 0;
+  virtual void SetOLEDropMode(std::int16_t ModeA) = 0;
+  virtual bool ShowToolTips() const = 0;
+  virtual void SetShowToolTips(bool ShowA) = 0;
+  /// Coordinate unit of the items: 1 twips, 3 pixels.
+  virtual int ScaleMode() const = 0;
+  virtual void SetScaleMode(int ModeA) = 0;
+  /// Extent of the drawing area, in canvas units.
+  virtual double DrawingWidth() const = 0;
+  virtual double DrawingHeight() const = 0;
+
+  virtual std::size_t GraphicCount() const = 0;
+  /// The item with that key or at that 1-based position; none when there is none.
+  virtual Ref<ICanvasItem> Graphic(const Variant& KeyIndexA) const = 0;
+  virtual Ref<ICanvasItem> GraphicByKey(StringView KeyA) const { return Graphic(Variant(KeyA)); }
+  /// A new item on top of the others; none when the key exists.
+  virtual Ref<ICanvasItem> AddGraphic(StringView KeyA, int KindA) = 0;
+  /// Throws SubscriptOutOfRange when there is no such item.
+  virtual void RemoveGraphic(const Variant& KeyIndexA) = 0;
+};
+
+}  // namespace mur
