@@ -1,0 +1,99 @@
+#include <utility>
+
+#include <murtimeline/automation/error.h>
+#include <murtimeline/automation/selector.h>
+#include <murtimeline/render/companions/canvas.h>
+
+namespace mur {
+namespace {
+
+constexpr int kTwipsMode = 1;
+
+}  // namespace
+
+MURGraphicCanvas::MURGraphicCanvas(ChildHost& HostA) : mHost(HostA), mScene(Make<CanvasScene>(HostA)) {
+  mScene->SetPixelsPerUnit(PixelsPerUnit());
+}
+
+MURGraphicCanvas::~MURGraphicCanvas() {
+  mScene->CutHost();
+}
+
+void MURGraphicCanvas::Paint(Surface& SurfaceA, const RectF& DirtyA) {
+  SurfaceA.FillRectangle(DirtyA, ResolveColor(mBackColor, mHost));
+  mScene->ForEachShown(DirtyA, [&](std::uint32_t slot) {
+    SurfaceA.FillRectangle(PixelBounds(mScene->ItemOf(slot)),
+                           ResolveColor(mScene->LookOf(slot).backColor, mHost));
+  });
+  mScene->Requests().Painted();
+}
+
+void MURGraphicCanvas::Resized() {
+  mScene->Requests().RequestAll();
+  Repaint.Raise();
+}
+
+Ref<ICanvasItem> MURGraphicCanvas::ItemAt(PointF PointA) const {
+  return Ref<ICanvasItem>(mScene->TopmostAt({PointA.x / PixelsPerUnit(), PointA.y / PixelsPerUnit()}));
+}
+
+String MURGraphicCanvas::ToolTipAt(PointF PointA) const {
+  if (!mShowToolTips) return {};
+  if (const auto item = ItemAt(PointA))
+    if (String text = item->ToolTipText(); !text.empty()) return text;
+  return mHost.ToolTipText();
+}
+
+RectF MURGraphicCanvas::PixelBounds(const ICanvasItem& ItemA) const {
+  const float pixels = PixelsPerUnit();
+  return {ItemA.Left() * pixels, ItemA.Top() * pixels, ItemA.Width() * pixels, ItemA.Height() * pixels};
+}
+
+void MURGraphicCanvas::SetBackColor(OleColor ColorA) {
+  if (std::exchange(mBackColor, ColorA) != ColorA) mScene->Requests().RequestAll();
+}
+
+void MURGraphicCanvas::SetScaleMode(int ModeA) {
+  if (std::exchange(mScaleMode, ModeA) == ModeA) return;
+  mScene->SetPixelsPerUnit(PixelsPerUnit());
+  mScene->Requests().RequestAll();
+}
+
+double MURGraphicCanvas::DrawingWidth() const {
+  return static_cast<double>(mHost.Width()) /
+         static_cast<double>(ChildHost::kTwipsPerPixel * PixelsPerUnit());
+}
+
+double MURGraphicCanvas::DrawingHeight() const {
+  return static_cast<double>(mHost.Height()) /
+         static_cast<double>(ChildHost::kTwipsPerPixel * PixelsPerUnit());
+}
+
+Ref<ICanvasItem> MURGraphicCanvas::Graphic(const Variant& KeyIndexA) const {
+  return ItemInSlot(Selector(KeyIndexA).SlotIn(mItems));
+}
+
+Ref<ICanvasItem> MURGraphicCanvas::GraphicByKey(StringView KeyA) const {
+  return ItemInSlot(mItems.SlotOfKey(KeyA));
+}
+
+Ref<ICanvasItem> MURGraphicCanvas::AddGraphic(StringView KeyA, int KindA) {
+  Ref<CanvasItem> item = Make<CanvasItem>(mScene, KeyA, KindA);
+  return mItems.Append(item) ? item : Ref<ICanvasItem>();
+}
+
+void MURGraphicCanvas::RemoveGraphic(const Variant& KeyIndexA) {
+  const std::size_t slot = Selector(KeyIndexA).SlotIn(mItems);
+  if (slot == Items::kNone) throw AutomationError(ErrorCode::SubscriptOutOfRange);
+  mScene->TakeOff(mItems.Remove(slot)->SceneSlot());
+}
+
+Ref<ICanvasItem> MURGraphicCanvas::ItemInSlot(std::size_t SlotA) const {
+  return SlotA == Items::kNone ? Ref<ICanvasItem>() : mItems.At(SlotA);
+}
+
+float MURGraphicCanvas::PixelsPerUnit() const {
+  return mScaleMode == kTwipsMode ? 1 / ChildHost::kTwipsPerPixel : 1;
+}
+
+}  // namespace mur

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <murtimeline/automation/export.h>
+#include <murtimeline/automation/keyed_sequence.h>
+#include <murtimeline/render/companions/canvas_interface.h>
+#include <murtimeline/render/companions/canvas_item.h>
+#include <murtimeline/render/port/child_host.h>
+#include <murtimeline/render/port/surface.h>
+
+namespace mur {
+
+/// The drawing canvas. Items are kept in the order in which they were added, under keys that are unique when
+/// letter case is ignored; the spatial order behind painting and hit testing is brought up to date only when
+/// something is asked of it. It starts with scale mode 1 (twips), the platform's application workspace
+/// colour, tool tips shown and `OLEDropMode` 0.
+class MUR_API MURGraphicCanvas final : public IGraphicCanvas {
+ public:
+  /// `HostA` outlives the canvas.
+  explicit MURGraphicCanvas(ChildHost& HostA);
+  ~MURGraphicCanvas() override;
+
+  /// Draws what `DirtyA` (pixels) touches, background included.
+  void Paint(Surface& SurfaceA, const RectF& DirtyA);
+  /// The face tells that the drawing area has another extent; raises Repaint.
+  void Resized();
+  /// The topmost visible item at a point (pixels): the cursor before all bars, as it is drawn.
+  Ref<ICanvasItem> ItemAt(PointF PointA) const;
+  /// What to show while the pointer rests there: the item's tool tip, else that of the canvas; empty while
+  /// tool tips are off.
+  String ToolTipAt(PointF PointA) const;
+  /// Where an item lies, in pixels.
+  RectF PixelBounds(const ICanvasItem& ItemA) const;
+
+  OleColor BackColor() const override { return mBackColor; }
+  void SetBackColor(OleColor ColorA) override;
+  std::int16_t OLEDropMode() const override { return mOLEDropMode; }
+  void SetOLEDropMode(std::int16_t ModeA) override { mOLEDropMode = ModeA; }
+  bool ShowToolTips() const override { return mShowToolTips; }
+  void SetShowToolTips(bool ShowA) override { mShowToolTips = ShowA; }
+  int ScaleMode() const override { return mScaleMode; }
+  void SetScaleMode(int ModeA) override;
+  double DrawingWidth() const override;
+  double DrawingHeight() const override;
+
+  std::size_t GraphicCount() const override { return mItems.Count(); }
+  Ref<ICanvasItem> Graphic(const Variant& KeyIndexA) const override;
+  Ref<ICanvasItem> GraphicByKey(StringView KeyA) const override;
+  Ref<ICanvasItem> AddGraphic(StringView KeyA, int KindA) override;
+  void RemoveGraphic(const Variant& KeyIndexA) override;
+
+ private:
+  struct KeyOf {
+    StringView operator()(const Ref<CanvasItem>& ItemA) const { return ItemA->KeyView(); }
+  };
+  using Items = KeyedSequence<Ref<CanvasItem>, KeyOf>;
+
+  Ref<ICanvasItem> ItemInSlot(std::size_t SlotA) const;
+  float PixelsPerUnit() const;
+
+  ChildHost& mHost;
+  Ref<CanvasScene> mScene;
+  Items mItems;
+  OleColor mBackColor = 0x8000000C;  // application workspace
+  int mScaleMode = 1;
+  std::int16_t mOLEDropMode = 0;
+  bool mShowToolTips = true;
+};
+
+}  // namespace mur

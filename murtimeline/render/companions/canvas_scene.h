@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include <murtimeline/automation/export.h>
+#include <murtimeline/automation/object.h>
+#include <murtimeline/render/companions/item_place.h>
+#include <murtimeline/render/companions/repaint_requests.h>
+
+namespace mur {
+
+class CanvasItem;
+
+/// What painting needs to know about an item besides its place.
+struct MUR_API ItemLook {
+  std::int64_t z = 0;
+  OleColor backColor = 0x8000000F;  // button face
+  bool visible = true;
+  bool onCanvas = true;  // false from its removal on
+  bool isCursor = false;
+
+  bool IsShown() const noexcept { return visible && onCanvas; }
+  /// Where it is drawn and hit among the others: the cursor above all bars, whatever its stacking order.
+  std::int64_t Order() const noexcept { return isCursor ? z + kAboveAllBars : z; }
+
+ private:
+  static constexpr std::int64_t kAboveAllBars = std::int64_t{1} << 62;
+};
+
+/// Geometry, looks and stacking order of a canvas's items, by slot. Canvas and items share it, so that an
+/// item can outlive its canvas; it does not keep either of them.
+class MUR_API CanvasScene final : public Object {
+ public:
+  explicit CanvasScene(ChildHost& HostA) : mRequests(HostA) {}
+
+  /// A slot for an item, on top of the others.
+  std::uint32_t Add(CanvasItem& ItemA);
+  /// The item is off the canvas; its slot stays until it is forgotten.
+  void TakeOff(std::uint32_t SlotA);
+  /// The item ends.
+  void Forget(std::uint32_t SlotA);
+  /// The canvas ends.
+  void CutHost() noexcept { mRequests.Cut(); }
+
+  const ItemPlace& PlaceOf(std::uint32_t SlotA) const { return mPlaces[SlotA]; }
+  const ItemLook& LookOf(std::uint32_t SlotA) const { return mLooks[SlotA]; }
+  CanvasItem& ItemOf(std::uint32_t SlotA) const { return *mItems[SlotA]; }
+
+  void SetPlace(std::uint32_t SlotA, const ItemPlace& PlaceA);
+  void SetVisible(std::uint32_t SlotA, bool VisibleA);
+  void SetBackColor(std::uint32_t SlotA, OleColor ColorA);
+  void BringToFront(std::uint32_t SlotA);
+  void SendToBack(std::uint32_t SlotA);
+
+  /// The place of the item must be painted again.
+  void RequestRepaint(std::uint32_t SlotA);
+  RepaintRequests& Requests() noexcept { return mRequests; }
+  void SetPixelsPerUnit(float PixelsA) noexcept { mPixelsPerUnit = PixelsA; }
+  float PixelsPerUnit() const noexcept { return mPixelsPerUnit; }
+
+  /// The topmost item shown at a point (canvas units); null when there is none.
+  CanvasItem* TopmostAt(PointF PointA) const;
+
+  /// Calls `VisitA(slot)` for every shown item that overlaps the area (canvas units), in no particular order.
+  template <class Visit>
+  void ForEachShown(const RectF& AreaA, Visit&& VisitA) const {
+    for (std::uint32_t slot = 0; slot < mPlaces.size(); ++slot)
+      if (mLooks[slot].IsShown() && mPlaces[slot].Overlaps(AreaA)) VisitA(slot);
+  }
+
+ private:
+  std::vector<ItemPlace> mPlaces;
+  std::vector<ItemLook> mLooks;
+  std::vector<CanvasItem*> mItems;
+  std::vector<std::uint32_t> mFreeSlots;
+  RepaintRequests mRequests;
+  std::int64_t mFront = 0;
+  std::int64_t mBack = 0;
+  float mPixelsPerUnit = 1;
+};
+
+}  // namespace mur

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include <murtimeline/automation/export.h>
+#include <murtimeline/render/port/control_host.h>
+
+namespace mur {
+
+/// A child control in memory: it keeps its extent and tool tip and notes what was invalidated. Its palette is
+/// the classic one.
+class MUR_API ScriptedChild final : public ChildHost {
+ public:
+  float Left() const override { return mLeft; }
+  float Top() const override { return mTop; }
+  float Width() const override { return mWidth; }
+  float Height() const override { return mHeight; }
+  void SetHeight(float HeightA) override { mHeight = HeightA; }
+  void Move(float LeftA, std::optional<float> TopA = {}, std::optional<float> WidthA = {},
+            std::optional<float> HeightA = {}) override;
+
+  String ToolTipText() const override { return mToolTipText; }
+  void SetToolTipText(StringView TextA) override { mToolTipText = TextA; }
+  void Invalidate(const RectF& RectA) override { mInvalidated.push_back(RectA); }
+  void InvalidateAll() override { ++mInvalidatedAll; }
+  Rgba SystemColor(int IndexA) const override;
+
+  /// The rectangles and the number of whole invalidations since the last ForgetInvalidations.
+  const std::vector<RectF>& Invalidated() const { return mInvalidated; }
+  std::size_t InvalidatedAll() const { return mInvalidatedAll; }
+  void ForgetInvalidations();
+
+ private:
+  float mLeft = 0, mTop = 0, mWidth = 0, mHeight = 0;
+  String mToolTipText;
+  std::vector<RectF> mInvalidated;
+  std::size_t mInvalidatedAll = 0;
+};
+
+/// A host in memory, for tests and for drawing without a window. The scroller starts with its design height.
+class MUR_API ScriptedHost final : public ControlHost {
+ public:
+  static constexpr float kScrollerDesignHeight = 600;
+
+  ScriptedHost() { mScroller.SetHeight(kScrollerDesignHeight); }
+
+  float ScaleWidth() const override { return mScaleWidth; }
+  float ScaleHeight() const override { return mScaleHeight; }
+  ScriptedChild& ScrollerHost() override { return mScroller; }
+  ScriptedChild& CanvasHost() override { return mCanvas; }
+
+  void SetScaleWidth(float WidthA) { mScaleWidth = WidthA; }
+  void SetScaleHeight(float HeightA) { mScaleHeight = HeightA; }
+
+ private:
+  float mScaleWidth = 0, mScaleHeight = 0;
+  ScriptedChild mScroller, mCanvas;
+};
+
+}  // namespace mur
