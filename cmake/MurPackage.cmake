@@ -9,15 +9,9 @@ write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/MURTimelineConfigVe
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/MURTimelineConfig.cmake
   ${CMAKE_CURRENT_BINARY_DIR}/MURTimelineConfigVersion.cmake DESTINATION ${MUR_PACKAGE_FOLDER})
 
-# The prefix is known for sure at install time only: `cmake --install --prefix` may change it.
-cmake_path(APPEND MUR_PC_LIBDIR "\${prefix}" ${CMAKE_INSTALL_LIBDIR})
-cmake_path(APPEND MUR_PC_INCLUDEDIR "\${prefix}" ${CMAKE_INSTALL_INCLUDEDIR})
-set(pcFolder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-install(CODE "
-  set(PROJECT_VERSION [[${PROJECT_VERSION}]])
-  set(PROJECT_DESCRIPTION [[${PROJECT_DESCRIPTION}]])
-  set(MUR_PC_LIBDIR [[${MUR_PC_LIBDIR}]])
-  set(MUR_PC_INCLUDEDIR [[${MUR_PC_INCLUDEDIR}]])
-  configure_file([[${CMAKE_CURRENT_LIST_DIR}/murtimeline.pc.in]] [[${CMAKE_CURRENT_BINARY_DIR}/murtimeline.pc]] @ONLY)")
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/murtimeline.pc DESTINATION ${pcFolder})
+set(pkgConfigFolder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH upToPrefix /${pkgConfigFolder} /)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/murtimeline.pc.in ${CMAKE_CURRENT_BINARY_DIR}/murtimeline.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/murtimeline.pc DESTINATION ${pkgConfigFolder})
+
 install(FILES README.md LICENSE CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
