@@ -11,7 +11,7 @@ namespace mur {
 namespace {
 
 // What one level of reports may need besides our own frames: a listener, a formatted text, a repaint.
-constexpr std::size_t kReserve = 256 * 1024;
+constexpr std::size_t kReserve = std::size_t{256} * 1024;
 
 std::uintptr_t LowestUsableAddress() {
   void* base = nullptr;
