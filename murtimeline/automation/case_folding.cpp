@@ -24,7 +24,8 @@ char32_t NextFolded(StringView TextA, std::size_t& PositionA) {
 
 bool EqualIgnoringCase(StringView LeftA, StringView RightA) {
   if (LeftA == RightA) return true;
-  std::size_t left = 0, right = 0;
+  std::size_t left = 0;
+  std::size_t right = 0;
   while (left < LeftA.size() && right < RightA.size())
     if (NextFolded(LeftA, left) != NextFolded(RightA, right)) return false;
   return left == LeftA.size() && right == RightA.size();
