@@ -11,6 +11,7 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/MURTimelineConfig.cmake
 
 set(pkgConfigFolder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH upToPrefix /${pkgConfigFolder} /)
+string(REGEX REPLACE "/$" "" upToPrefix ${upToPrefix})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/murtimeline.pc.in ${CMAKE_CURRENT_BINARY_DIR}/murtimeline.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/murtimeline.pc DESTINATION ${pkgConfigFolder})
 
