@@ -7,7 +7,6 @@
 namespace mur {
 namespace {
 
-constexpr std::ptrdiff_t kLongestInteger = 15;
 constexpr std::ptrdiff_t kMostLeadingZeros = 3;
 
 template <class... Arguments>
@@ -36,13 +35,11 @@ void AppendDigits(String& TextA, const Decimal& ValueA, const Region& RegionA) {
 }  // namespace
 
 Decimal Decimal::FromDouble(double ValueA) {
-  std::array<char, 32> buffer;
-  return FromScientific(ToChars(buffer, ValueA, std::chars_format::scientific, 14));
+  return FromFloating(ValueA, 15);
 }
 
 Decimal Decimal::FromSingle(float ValueA) {
-  std::array<char, 32> buffer;
-  return FromScientific(ToChars(buffer, ValueA, std::chars_format::scientific, 6));
+  return FromFloating(ValueA, 7);
 }
 
 Decimal Decimal::FromInteger(std::int64_t ValueA) {
@@ -57,15 +54,21 @@ Decimal Decimal::FromInteger(std::uint64_t ValueA) {
   return FromDigits(ToChars(buffer, ValueA), false);
 }
 
-Decimal Decimal::FromScientific(std::string_view TextA) {
+template <class Number>
+Decimal Decimal::FromFloating(Number ValueA, int PrecisionA) {
+  // One digit, a point, more digits, "e", the exponent's sign, the exponent.
+  std::array<char, 32> buffer;
+  const std::string_view text =
+      ToChars(buffer, std::fabs(ValueA), std::chars_format::scientific, PrecisionA - 1);
+  const std::size_t e = text.find('e');
   Decimal decimal;
-  decimal.mNegative = TextA.front() == '-';
-  const std::size_t e = TextA.find('e');
-  for (const char unit : TextA.substr(0, e))
-    if (unit >= '0' && unit <= '9') decimal.Append(unit);
-  const std::size_t sign = TextA[e + 1] == '+' ? 1 : 0;
-  std::from_chars(TextA.data() + e + 1 + sign, TextA.data() + TextA.size(), decimal.mPoint);
-  ++decimal.mPoint;
+  decimal.mNegative = std::signbit(ValueA);
+  decimal.mPrecision = PrecisionA;
+  decimal.Append(text.front());
+  for (const char digit : text.substr(2, e - 2)) decimal.Append(digit);
+  std::ptrdiff_t exponent = 0;
+  std::from_chars(text.data() + e + 2, text.data() + text.size(), exponent);
+  decimal.mPoint = (text[e + 1] == '-' ? -exponent : exponent) + 1;
   decimal.StripZeros();
   return decimal;
 }
@@ -124,7 +127,7 @@ void Decimal::Round(std::ptrdiff_t FractionLengthA) {
 String ShortestText(const Decimal& ValueA, const Region& RegionA) {
   String text;
   if (ValueA.IsNegative()) text += u'-';
-  const bool isLarge = ValueA.Point() > kLongestInteger;
+  const bool isLarge = ValueA.Point() > ValueA.Precision();
   if (!isLarge && ValueA.Point() >= -kMostLeadingZeros) {
     AppendDigits(text, ValueA, RegionA);
     return text;

@@ -29,6 +29,9 @@ class Decimal {
   /// The number of digits before the decimal separator; zero or less for a number below one.
   std::ptrdiff_t Point() const { return mPoint; }
 
+  /// The most digits before the decimal separator with which the number's type is still written in full.
+  std::ptrdiff_t Precision() const { return mPrecision; }
+
   /// The number of significant digits behind the decimal separator; zero or less for a whole number.
   std::ptrdiff_t FractionLength() const { return mCount - mPoint; }
 
@@ -42,18 +45,23 @@ class Decimal {
   void Round(std::ptrdiff_t FractionLengthA);
 
  private:
-  static Decimal FromScientific(std::string_view TextA);
+  template <class Number>
+  static Decimal FromFloating(Number ValueA, int PrecisionA);
   static Decimal FromDigits(std::string_view DigitsA, bool NegativeA);
   void Append(char DigitA);
   void StripZeros();
 
+  static constexpr std::size_t kCapacity = 20;  // the largest 64-bit integer
+
   bool mNegative = false;
+  std::ptrdiff_t mPrecision = kCapacity;
   std::ptrdiff_t mCount = 0;
   std::ptrdiff_t mPoint = 0;
-  std::array<char, 20> mDigits{};  // the largest 64-bit integer has 20
+  std::array<char, kCapacity> mDigits{};
 };
 
-/// The shortest text of a number; scientific from 1E+15 on and below 0.0001 unless it is an integer value.
+/// The shortest text of a number; scientific below 0.0001 and from 1E+15 on (a single from 1E+07 on).
+/// Integer types are always written in full.
 String ShortestText(const Decimal& ValueA, const Region& RegionA);
 
 /// "NaN", "Infinity" or "-Infinity".

@@ -25,10 +25,11 @@ struct NumberSection {
   std::ptrdiff_t shift = 0;                   ///< power of ten the value is multiplied by (percent, scaling)
   bool grouped = false;
   bool scientific = false;
+  bool hasPoint = false;
   bool general = false;
 
   /// Whether the section shows digits of the value, not only literals.
-  bool ShowsValue() const { return integerDigits + fractionDigits > 0 || general; }
+  bool ShowsValue() const { return integerDigits + fractionDigits > 0 || hasPoint || general; }
 };
 
 /// A number pattern made ready: the sections for positive, negative, zero and null values, as far as given.

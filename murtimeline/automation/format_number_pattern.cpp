@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <murtimeline/automation/format_number.h>
 
 namespace mur {
@@ -54,7 +56,7 @@ class SectionParser {
 
   void TakeDigit(bool RequiredA) {
     GroupByPendingCommas();
-    if (mBehindPoint) {
+    if (mSection.hasPoint) {
       ++mSection.fractionDigits;
       if (RequiredA) mSection.requiredFractionDigits = mSection.fractionDigits;
     } else {
@@ -65,9 +67,9 @@ class SectionParser {
   }
 
   void TakePoint() {
-    if (mBehindPoint) return Push(NumberPart::Literal, 1);
+    if (mSection.hasPoint) return Push(NumberPart::Literal, 1);
     ScaleByPendingCommas();
-    mBehindPoint = true;
+    mSection.hasPoint = true;
     Push(NumberPart::DecimalPoint, 1);
   }
 
@@ -94,7 +96,7 @@ class SectionParser {
     mPendingCommas = 0;
   }
   void ScaleByPendingCommas() {
-    if (!mBehindPoint) mSection.shift -= 3 * mPendingCommas;
+    if (!mSection.hasPoint) mSection.shift -= 3 * mPendingCommas;
     mPendingCommas = 0;
   }
 
@@ -106,7 +108,6 @@ class SectionParser {
   NumberSection mSection;
   std::size_t mPosition = 0;
   std::ptrdiff_t mPendingCommas = 0;
-  bool mBehindPoint = false;
 };
 
 }  // namespace

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <murtimeline/automation/string.h>
+
+namespace mur {
+
+/// Regional text as it is shown: every kind of space a plain one, invisible direction marks left out.
+String PlainText(StringView TextA);
+
+/// `TextA` as literals of the engine's own pattern language.
+String EscapedLiterals(StringView TextA);
+
+/// A date or time pattern of the Unicode locale data in the engine's own pattern language. Years are written
+/// in full; fields that the engine does not know (eras, time zones) are left out.
+String FromCldrPattern(StringView PatternA);
+
+/// What stands between the first two fields of a pattern of the Unicode locale data, without spaces;
+/// `OtherwiseA` when nothing does.
+String CldrSeparator(StringView PatternA, StringView OtherwiseA);
+
+}  // namespace mur
