@@ -56,6 +56,8 @@ class MUR_API CMURTimeline final : public IMURTLObjectEventSink {
   Variant AddTrackKey(StringView KeyA);
   /// Removes a track key if it is there; raises PropertyChanged "NTrackKeys" in any case.
   void RemoveTrackKey(const Variant& KeyIndexA);
+  /// The number of track keys beyond what 16 bits can say.
+  std::size_t TrackCount() const { return mTrackKeys.Count(); }
   /// The 1-based position of exactly this track key, letter case included; 0 when there is none.
   std::size_t TrackPosition(StringView KeyA) const;
 

@@ -1,0 +1,142 @@
+#include <vector>
+
+#include <murtimeline/automation/guard.h>
+#include <murtimeline/automation/narrow.h>
+#include <murtimeline/render/bar_drawing.h>
+#include <murtimeline/render/object_path.h>
+#include <murtimeline/render/object_walks.h>
+
+namespace mur {
+namespace {
+constexpr int kTagSite = 5;
+constexpr std::int16_t kToBack = 1;
+}  // namespace
+
+Ref<ICanvasItem> BarDrawing::ItemOf(const IMURTimelineObject& ObjectA) const {
+  String scratch;
+  return mState.Canvas().GraphicByKey(ObjectA.KeyView(scratch));
+}
+
+void BarDrawing::AddBar(const Ref<IMURTimelineObject>& ObjectA) {
+  ResumeNext([&] {
+    String scratch;
+    const Ref<ICanvasItem> item = mState.Canvas().AddGraphic(ObjectA->KeyView(scratch), kObjectBarItem);
+    if (!item) return;
+    item->SetHeight(mState.barHeight);
+    PlaceObjectItemTree(ObjectA, GetNestingLevel(ObjectA));
+    const Ref<CMURTLRenderConfig> config = mConfigs.Resolve(*ObjectA);
+    item->SetCaption(kTagSite, ObjectA->Tag());
+    item->SetForeColor(config->ForeColor());
+    item->SetBackColor(config->BackColor());
+    if (const Ref<ICanvasItem> cursor = mState.Canvas().GraphicByKey(kCursorKey)) cursor->ZOrder(kToBack);
+  });
+}
+
+// Moves the object's item to its row; gives the item, or none when there is none.
+Ref<ICanvasItem> BarDrawing::PlaceItem(const Ref<IMURTimelineObject>& ObjectA, int LevelA) {
+  Ref<ICanvasItem> item = ItemOf(*ObjectA);
+  if (item)
+    item->Move(item->Left(),
+               mTracks.ComputeTrackTop(ObjectA) + mTracks.RowStep() * static_cast<float>(LevelA - 1));
+  return item;
+}
+
+// Each item goes to the back after its children, so that parents lie behind them.
+void BarDrawing::PlaceObjectItemTree(const Ref<IMURTimelineObject>& ObjectA, int LevelA) {
+  ResumeNext([&] {
+    Ref<ICanvasItem> item = PlaceItem(ObjectA, LevelA);
+    if (!item) return;
+    if (ObjectA->ChildCount() == 0) return item->ZOrder(kToBack);
+    ObjectPath path;
+    std::vector<Ref<ICanvasItem>> items{std::move(item)};
+    path.Enter(ObjectA);
+    while (!path.IsEmpty()) {
+      if (const Ref<IMURTimelineObject> child = path.NextChild()) {
+        const int level = Narrow<std::int16_t>(LevelA + static_cast<std::int64_t>(path.Depth()));
+        Ref<ICanvasItem> childItem;
+        ResumeNext([&] { childItem = PlaceItem(child, level); });
+        if (!childItem) continue;
+        path.Enter(child);
+        items.push_back(std::move(childItem));
+      } else {
+        ResumeNext([&] { items.back()->ZOrder(kToBack); });
+        items.pop_back();
+        path.Leave();
+      }
+    }
+  });
+}
+
+void BarDrawing::SpanItem(const IMURTimelineObject& ObjectA, ICanvasItem& ItemA, double DurationA) const {
+  const double start = ObjectA.WorldTimeT0().Seconds();
+  const float x0 = XOf(start);
+  const float x1 = XOf(start + DurationA);
+  ItemA.Move(ItemA.Left(), {}, x1 - x0);
+}
+
+void BarDrawing::MoveItem(ICanvasItem& ItemA, Date StartA) const {
+  ItemA.Move(XOf(StartA.Seconds()));
+}
+
+void BarDrawing::UpdateItemSpan(const IMURTimelineObject& ObjectA, double DurationA) {
+  ResumeNext([&] {
+    const Ref<ICanvasItem> item = ItemOf(ObjectA);
+    if (!item) return;
+    SpanItem(ObjectA, *item, DurationA);
+    mCaptions.ApplyAutoCaptions(ObjectA, *item);
+  });
+}
+
+void BarDrawing::UpdateItemLeft(const IMURTimelineObject& ObjectA, Date StartA) {
+  ResumeNext([&] {
+    const Ref<ICanvasItem> item = ItemOf(ObjectA);
+    if (!item) return;
+    MoveItem(*item, StartA);
+    mCaptions.ApplyAutoCaptions(ObjectA, *item);
+  });
+}
+
+void BarDrawing::ReplaceAllBars() {
+  auto objects = mState.timeline->NewEnum();
+  while (const Ref<IMURTimelineObject> object = objects.Next()) {
+    // The captions of an object depend on neither move, so that writing them once, after both, is enough.
+    ResumeNext([&] {
+      const Ref<ICanvasItem> item = ItemOf(*object);
+      if (!item) return;
+      ResumeNext([&] { SpanItem(*object, *item, object->Duration()); });
+      ResumeNext([&] { MoveItem(*item, object->WorldTimeT0()); });
+      mCaptions.ApplyAutoCaptions(*object, *item);
+    });
+  }
+}
+
+void BarDrawing::RefreshCaptions(const IMURTimelineObject& ObjectA) {
+  ResumeNext([&] {
+    if (const Ref<ICanvasItem> item = ItemOf(ObjectA)) mCaptions.ApplyAutoCaptions(ObjectA, *item);
+  });
+}
+
+void BarDrawing::RefreshTooltip(const IMURTimelineObject& ObjectA) {
+  ResumeNext([&] {
+    if (const Ref<ICanvasItem> item = ItemOf(ObjectA))
+      item->SetToolTipText(mCaptions.ExpandTooltipTemplate(ObjectA));
+  });
+}
+
+void BarDrawing::RefreshColors(const IMURTimelineObject& ObjectA) {
+  ResumeNext([&] {
+    const Ref<ICanvasItem> item = ItemOf(ObjectA);
+    if (!item) return;
+    const Ref<CMURTLRenderConfig> config = mConfigs.Resolve(ObjectA);
+    item->SetForeColor(config->ForeColor());
+    item->SetBackColor(config->BackColor());
+  });
+}
+
+void BarDrawing::SetItemBackColor(const IMURTimelineObject& ObjectA, OleColor ColorA) {
+  ResumeNext([&] {
+    if (const Ref<ICanvasItem> item = ItemOf(ObjectA)) item->SetBackColor(ColorA);
+  });
+}
+
+}  // namespace mur

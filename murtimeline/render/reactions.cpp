@@ -1,0 +1,75 @@
+#include <murtimeline/automation/guard.h>
+#include <murtimeline/render/object_walks.h>
+#include <murtimeline/render/reactions.h>
+
+namespace mur {
+
+using ObjectRef = Ref<IMURTimelineObject>;
+
+void TimelineReactions::Attach() {
+  Detach();
+  if (!mState.timeline) return;
+  CMURTimeline& timeline = *mState.timeline;
+  Listen(timeline.Cleared, [this] { OnCleared(); });
+  Listen(timeline.PropertyChanged, [this](StringView name) { OnPropertyChanged(name); });
+  Listen(timeline.TLObjectAdded, [this](const Variant& key) { OnObjectAdded(key); });
+  Listen(timeline.TLObjectRemoved, [this](const Variant& key, StringView) { OnObjectRemoved(key); });
+  Listen(timeline.TLObjectAdopted,
+         [this](const ObjectRef& parent, const ObjectRef& child) { OnObjectAdopted(parent, child); });
+  Listen(timeline.TLObjectOrphaned,
+         [this](const ObjectRef& parent, const ObjectRef& child) { OnObjectOrphaned(parent, child); });
+  Listen(timeline.TLObjectPropertyChanged, [this](const ObjectRef& object, StringView name, const Variant&) {
+    OnObjectPropertyChanged(object, name);
+  });
+}
+
+void TimelineReactions::OnCleared() {
+  while (mState.Canvas().GraphicCount() >= 1) mState.Canvas().RemoveGraphic(1);
+  mState.Scroller().MarkersClear();
+  mAxis.CreateCursorItem();
+}
+
+void TimelineReactions::OnPropertyChanged(StringView PropNameA) {
+  if (PropNameA == u"Duration" || PropNameA == u"WorldTimeT0") mAxis.Repaint();
+}
+
+void TimelineReactions::OnObjectAdded(const Variant& KeyIdxA) {
+  if (const ObjectRef object = mState.timeline->Item(KeyIdxA)) mDrawing.AddBar(object);
+}
+
+// A key removes the item of that key, a position the canvas's item there, which need not be the model's.
+void TimelineReactions::OnObjectRemoved(const Variant& KeyIdxA) {
+  ResumeNext([&] { mState.Canvas().RemoveGraphic(KeyIdxA); });
+}
+
+void TimelineReactions::OnObjectAdopted(const ObjectRef& ParentA, const ObjectRef& ChildA) {
+  ResumeNext([&] {
+    mDrawing.PlaceObjectItemTree(ChildA, GetNestingLevel(ChildA));
+    mDrawing.RefreshCaptions(*ChildA);
+    mDrawing.RefreshCaptions(*ParentA);
+  });
+}
+
+// The child's bar keeps its row: it is adoption that places, by contract.
+void TimelineReactions::OnObjectOrphaned(const ObjectRef& ParentA, const ObjectRef& ChildA) {
+  ResumeNext([&] { mDrawing.RefreshCaptions(*ChildA); });
+  ResumeNext([&] { mDrawing.RefreshCaptions(*ParentA); });
+}
+
+// A group or scalar reports its start as "WorldtimeT0", which is no name of this list: its bar follows with
+// the next full repaint, by contract.
+void TimelineReactions::OnObjectPropertyChanged(const ObjectRef& ObjectA, StringView PropNameA) {
+  ResumeNext([&] {
+    if (PropNameA == u"Duration")
+      mDrawing.UpdateItemSpan(*ObjectA, ObjectA->Duration());
+    else if (PropNameA == u"WorldTimeT0")
+      mDrawing.UpdateItemLeft(*ObjectA, ObjectA->WorldTimeT0());
+    else if (PropNameA == u"Offset" || PropNameA == u"Tag")
+      mDrawing.RefreshCaptions(*ObjectA);
+    else if (PropNameA == u"GroupType")
+      mDrawing.RefreshColors(*ObjectA);
+    mDrawing.RefreshTooltip(*ObjectA);
+  });
+}
+
+}  // namespace mur

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include <murtimeline/automation/string.h>
+
+namespace mur {
+
+/// Expands templates such as "$$Tag$$ ($$Duration$$)". Placeholders are replaced kind by kind, in the order
+/// of the caption kinds, all occurrences of each, letter case ignored; a text that was put in is searched for
+/// the kinds that follow.
+class TooltipTemplate {
+ public:
+  using Compose = std::function<String(std::int32_t /*caption type*/)>;
+
+  String Expand(StringView TemplateA, const Compose& ComposeA);
+
+ private:
+  // A piece of the template: a caption kind, or (0) literal text.
+  struct Piece {
+    std::int32_t type = 0;
+    String literal;
+  };
+
+  void Split(StringView TemplateA);
+
+  // The pieces of the last template, for it is expanded again and again.
+  String mTemplate;
+  std::vector<Piece> mPieces;
+};
+
+}  // namespace mur
