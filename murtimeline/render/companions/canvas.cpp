@@ -3,6 +3,7 @@
 #include <murtimeline/automation/error.h>
 #include <murtimeline/automation/selector.h>
 #include <murtimeline/render/companions/canvas.h>
+#include <murtimeline/render/companions/canvas_painter.h>
 
 namespace mur {
 namespace {
@@ -20,11 +21,11 @@ MURGraphicCanvas::~MURGraphicCanvas() {
 }
 
 void MURGraphicCanvas::Paint(Surface& SurfaceA, const RectF& DirtyA) {
+  SurfaceA.PushClip(DirtyA);
   SurfaceA.FillRectangle(DirtyA, ResolveColor(mBackColor, mHost));
-  mScene->ForEachShown(DirtyA, [&](std::uint32_t slot) {
-    SurfaceA.FillRectangle(PixelBounds(mScene->ItemOf(slot)),
-                           ResolveColor(mScene->LookOf(slot).backColor, mHost));
-  });
+  const float width = mHost.Width() / ChildHost::kTwipsPerPixel;
+  CanvasPainter(SurfaceA, *mScene, mHost, DirtyA, width).Paint();
+  SurfaceA.PopClip();
   mScene->Requests().Painted();
 }
 

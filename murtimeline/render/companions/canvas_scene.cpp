@@ -1,9 +1,12 @@
-#include <murtimeline/automation/narrow.h>
+#include <utility>
+
 #include <murtimeline/render/companions/canvas_item.h>
 #include <murtimeline/render/companions/canvas_scene.h>
 
 namespace mur {
 namespace {
+
+constexpr OleColor kCursorColor = 0x002020D0;  // a calm red
 
 RectF InPixels(const ItemPlace& PlaceA, float PixelsPerUnitA) {
   return {PlaceA.left * PixelsPerUnitA, PlaceA.top * PixelsPerUnitA, PlaceA.width * PixelsPerUnitA,
@@ -18,39 +21,38 @@ RectF Widened(const RectF& RectA) {
 }  // namespace
 
 std::uint32_t CanvasScene::Add(CanvasItem& ItemA) {
-  std::uint32_t slot = 0;
-  if (mFreeSlots.empty()) {
-    slot = Narrow<std::uint32_t>(mPlaces.size());
-    mPlaces.emplace_back();
+  const std::uint32_t slot = mIndex.Add();
+  if (slot == mItems.size()) {
     mLooks.emplace_back();
     mItems.emplace_back();
-  } else {
-    slot = mFreeSlots.back();
-    mFreeSlots.pop_back();
   }
-  mPlaces[slot] = {};
   mLooks[slot] = {};
   mLooks[slot].z = ++mFront;
-  mLooks[slot].isCursor = ItemA.Kind() == kCursorItem;
+  if (ItemA.Kind() == kCursorItem) {
+    mLooks[slot].isCursor = true;
+    mLooks[slot].backColor = kCursorColor;
+  }
   mItems[slot] = &ItemA;
   return slot;
 }
 
 void CanvasScene::TakeOff(std::uint32_t SlotA) {
+  if (!mLooks[SlotA].onCanvas) return;
   RequestRepaint(SlotA);
   mLooks[SlotA].onCanvas = false;
+  mIndex.TakeOff(SlotA);
 }
 
 void CanvasScene::Forget(std::uint32_t SlotA) {
-  mLooks[SlotA].onCanvas = false;
+  TakeOff(SlotA);
   mItems[SlotA] = nullptr;
-  mFreeSlots.push_back(SlotA);
+  mIndex.Release(SlotA);
 }
 
 void CanvasScene::SetPlace(std::uint32_t SlotA, const ItemPlace& PlaceA) {
-  if (mPlaces[SlotA] == PlaceA) return;
+  if (PlaceOf(SlotA) == PlaceA) return;
   RequestRepaint(SlotA);
-  mPlaces[SlotA] = PlaceA;
+  mIndex.SetPlace(SlotA, PlaceA);
   RequestRepaint(SlotA);
 }
 
@@ -76,11 +78,11 @@ void CanvasScene::SendToBack(std::uint32_t SlotA) {
 }
 
 void CanvasScene::RequestRepaint(std::uint32_t SlotA) {
-  if (!mRequests.WantsMore() || !mLooks[SlotA].IsShown() || !mPlaces[SlotA].IsDrawable()) return;
-  mRequests.Request(Widened(InPixels(mPlaces[SlotA], mPixelsPerUnit)));
+  if (!mRequests.WantsMore() || !mLooks[SlotA].IsShown() || !PlaceOf(SlotA).IsDrawable()) return;
+  mRequests.Request(Widened(InPixels(PlaceOf(SlotA), mPixelsPerUnit)));
 }
 
-CanvasItem* CanvasScene::TopmostAt(PointF PointA) const {
+CanvasItem* CanvasScene::TopmostAt(PointF PointA) {
   CanvasItem* topmost = nullptr;
   std::int64_t order = 0;
   ForEachShown({PointA.x, PointA.y, 0, 0}, [&](std::uint32_t slot) {

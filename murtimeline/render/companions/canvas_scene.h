@@ -5,7 +5,7 @@
 
 #include <murtimeline/automation/export.h>
 #include <murtimeline/automation/object.h>
-#include <murtimeline/render/companions/item_place.h>
+#include <murtimeline/render/companions/canvas_index.h>
 #include <murtimeline/render/companions/repaint_requests.h>
 
 namespace mur {
@@ -43,7 +43,7 @@ class MUR_API CanvasScene final : public Object {
   /// The canvas ends.
   void CutHost() noexcept { mRequests.Cut(); }
 
-  const ItemPlace& PlaceOf(std::uint32_t SlotA) const { return mPlaces[SlotA]; }
+  const ItemPlace& PlaceOf(std::uint32_t SlotA) const { return mIndex.PlaceOf(SlotA); }
   const ItemLook& LookOf(std::uint32_t SlotA) const { return mLooks[SlotA]; }
   CanvasItem& ItemOf(std::uint32_t SlotA) const { return *mItems[SlotA]; }
 
@@ -60,20 +60,23 @@ class MUR_API CanvasScene final : public Object {
   float PixelsPerUnit() const noexcept { return mPixelsPerUnit; }
 
   /// The topmost item shown at a point (canvas units); null when there is none.
-  CanvasItem* TopmostAt(PointF PointA) const;
+  CanvasItem* TopmostAt(PointF PointA);
 
-  /// Calls `VisitA(slot)` for every shown item that overlaps the area (canvas units), in no particular order.
+  /// Calls `VisitA(slot)` for every shown item that overlaps the area (canvas units); see CanvasIndex for the
+  /// order.
   template <class Visit>
-  void ForEachShown(const RectF& AreaA, Visit&& VisitA) const {
-    for (std::uint32_t slot = 0; slot < mPlaces.size(); ++slot)
-      if (mLooks[slot].IsShown() && mPlaces[slot].Overlaps(AreaA)) VisitA(slot);
+  void ForEachShown(const RectF& AreaA, Visit&& VisitA) {
+    mIndex.ForEachOverlapping(AreaA, [&](std::uint32_t slot) {
+      if (mLooks[slot].visible) VisitA(slot);
+    });
   }
 
+  bool IsConsistent() const { return mIndex.IsConsistent(); }
+
  private:
-  std::vector<ItemPlace> mPlaces;
+  CanvasIndex mIndex;
   std::vector<ItemLook> mLooks;
   std::vector<CanvasItem*> mItems;
-  std::vector<std::uint32_t> mFreeSlots;
   RepaintRequests mRequests;
   std::int64_t mFront = 0;
   std::int64_t mBack = 0;

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include <murtimeline/automation/export.h>
+#include <murtimeline/render/companions/item_place.h>
+#include <murtimeline/render/companions/range_maxima.h>
+
+namespace mur {
+
+/// The places of a canvas's items, by slot, and the order in space in which painting and hit testing find
+/// them.
+///
+/// Items of one top and height form a row; rows are ordered by top, the items of a row by left edge. A change
+/// of one item costs nothing but a note: noted items are looked through one by one, until there are so many
+/// of them that the order is made anew, in one pass. When all items moved along the time axis they have kept
+/// their order, and the pass sorts nothing.
+class MUR_API CanvasIndex {
+ public:
+  using Slot = std::uint32_t;
+
+  /// A slot for an item without extent.
+  Slot Add();
+  /// The item is found no more; its slot keeps a place until it is released.
+  void TakeOff(Slot SlotA);
+  /// The slot may be used anew. Only after TakeOff.
+  void Release(Slot SlotA) { mFree.push_back(SlotA); }
+
+  const ItemPlace& PlaceOf(Slot SlotA) const { return mPlaces[SlotA]; }
+  void SetPlace(Slot SlotA, const ItemPlace& PlaceA);
+
+  /// Calls `VisitA(slot)` for each item that overlaps the area, its right and lower edge included. Items of a
+  /// row come from left to right, apart from those that changed of late, which come last.
+  template <class Visit>
+  void ForEachOverlapping(const RectF& AreaA, Visit&& VisitA) {
+    Refresh();
+    mBottoms.ForEachAbove(
+        0, RowsStartingBy(AreaA.Bottom()), AreaA.top, [this](std::size_t row) { return mRows[row].Bottom(); },
+        [&](std::size_t row) { VisitRow(row, AreaA, VisitA); });
+    for (const Slot slot : mNoted)
+      if (mStates[slot] & kOnCanvas && mPlaces[slot].Overlaps(AreaA)) VisitA(slot);
+  }
+
+  /// Whether everything holds that the order promises; for tests.
+  bool IsConsistent() const;
+
+ private:
+  // What is known about a slot.
+  static constexpr std::uint8_t kOnCanvas = 1;
+  static constexpr std::uint8_t kInOrder = 2;  // has an entry, which is out of date while it is noted, too
+  static constexpr std::uint8_t kNoted = 4;
+
+  struct Entry {
+    float left, right;
+    Slot slot;
+  };
+  struct Row {
+    float top, height;
+    std::size_t end;  // of its entries; they start at the end of the row before
+    float Bottom() const { return top + height; }
+  };
+  struct Newcomer {
+    float top, height;
+    Entry entry;
+  };
+  using Newcomers = std::vector<Newcomer>;
+
+  template <class Visit>
+  void VisitRow(std::size_t RowA, const RectF& AreaA, Visit& VisitA) const {
+    const std::size_t begin = RowBegin(RowA);
+    mRights.ForEachAbove(
+        begin, EntriesStartingBy(begin, mRows[RowA].end, AreaA.Right()), AreaA.left,
+        [this](std::size_t entry) { return mEntries[entry].right; },
+        [&](std::size_t entry) {
+          if (const Slot slot = mEntries[entry].slot; mStates[slot] == (kOnCanvas | kInOrder)) VisitA(slot);
+        });
+  }
+
+  std::size_t RowBegin(std::size_t RowA) const { return RowA == 0 ? 0 : mRows[RowA - 1].end; }
+  std::size_t RowsStartingBy(float YA) const;
+  std::size_t EntriesStartingBy(std::size_t BeginA, std::size_t EndA, float XA) const;
+
+  void Refresh();
+  void Rebuild();
+  void KeepEntries(bool ReloadA);
+  bool Keep(Entry& EntryA, const Row& RowA, bool ReloadA);
+  Newcomers TakeNoted();
+  void Merge(const Newcomers& NewcomersA);
+  bool IsRowConsistent(std::size_t RowA) const;
+
+  std::vector<ItemPlace> mPlaces;
+  std::vector<std::uint8_t> mStates;
+  std::vector<Slot> mFree;
+  std::vector<Slot> mNoted;
+  std::size_t mStale = 0;  // slots off the canvas that the order or the notes still name
+
+  std::vector<Entry> mEntries;
+  std::vector<Row> mRows;
+  RangeMaxima mRights;   // of the entries
+  RangeMaxima mBottoms;  // of the rows
+};
+
+}  // namespace mur
