@@ -114,12 +114,13 @@ String CldrSeparator(StringView PatternA, StringView OtherwiseA) {
   const std::vector<Item> items = Itemize(PlainText(PatternA));
   const auto isField = [](const Item& item) { return item.isField; };
   const auto first = std::find_if(items.begin(), items.end(), isField);
+  if (first == items.end()) return String(OtherwiseA);
+  const auto second = std::find_if(first + 1, items.end(), isField);
   String separator;
-  for (auto item = first; item != items.end(); ++item) {
-    if (item != first && item->isField) return separator.empty() ? String(OtherwiseA) : separator;
-    if (!item->isField && item->unit != u' ') separator += item->unit;
-  }
-  return String(OtherwiseA);
+  for (auto item = first + 1; item != second; ++item)
+    if (item->unit != u' ') separator += item->unit;
+  const bool isWord = std::any_of(separator.begin(), separator.end(), IsLetter);
+  return second == items.end() || separator.empty() || isWord ? String(OtherwiseA) : separator;
 }
 
 }  // namespace mur

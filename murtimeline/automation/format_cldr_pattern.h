@@ -15,7 +15,7 @@ String EscapedLiterals(StringView TextA);
 String FromCldrPattern(StringView PatternA);
 
 /// What stands between the first two fields of a pattern of the Unicode locale data, without spaces;
-/// `OtherwiseA` when nothing does.
+/// `OtherwiseA` when nothing does or a word ("06 h 00").
 String CldrSeparator(StringView PatternA, StringView OtherwiseA);
 
 }  // namespace mur

@@ -34,6 +34,25 @@ void AppendDigits(String& TextA, const Decimal& ValueA, const Region& RegionA) {
 
 }  // namespace
 
+template <class Number>
+Decimal Decimal::FromFloating(Number ValueA, int PrecisionA) {
+  // One digit, a point, more digits, "e", the exponent's sign, the exponent.
+  std::array<char, 32> buffer;
+  const std::string_view text =
+      ToChars(buffer, std::fabs(ValueA), std::chars_format::scientific, PrecisionA - 1);
+  const std::size_t e = text.find('e');
+  Decimal decimal;
+  decimal.mNegative = std::signbit(ValueA);
+  decimal.mPrecision = PrecisionA;
+  decimal.Append(text.front());
+  for (const char digit : text.substr(2, e - 2)) decimal.Append(digit);
+  std::ptrdiff_t exponent = 0;
+  std::from_chars(text.data() + e + 2, text.data() + text.size(), exponent);
+  decimal.mPoint = (text[e + 1] == '-' ? -exponent : exponent) + 1;
+  decimal.StripZeros();
+  return decimal;
+}
+
 Decimal Decimal::FromDouble(double ValueA) {
   return FromFloating(ValueA, 15);
 }
@@ -52,25 +71,6 @@ Decimal Decimal::FromInteger(std::int64_t ValueA) {
 Decimal Decimal::FromInteger(std::uint64_t ValueA) {
   std::array<char, 32> buffer;
   return FromDigits(ToChars(buffer, ValueA), false);
-}
-
-template <class Number>
-Decimal Decimal::FromFloating(Number ValueA, int PrecisionA) {
-  // One digit, a point, more digits, "e", the exponent's sign, the exponent.
-  std::array<char, 32> buffer;
-  const std::string_view text =
-      ToChars(buffer, std::fabs(ValueA), std::chars_format::scientific, PrecisionA - 1);
-  const std::size_t e = text.find('e');
-  Decimal decimal;
-  decimal.mNegative = std::signbit(ValueA);
-  decimal.mPrecision = PrecisionA;
-  decimal.Append(text.front());
-  for (const char digit : text.substr(2, e - 2)) decimal.Append(digit);
-  std::ptrdiff_t exponent = 0;
-  std::from_chars(text.data() + e + 2, text.data() + text.size(), exponent);
-  decimal.mPoint = (text[e + 1] == '-' ? -exponent : exponent) + 1;
-  decimal.StripZeros();
-  return decimal;
 }
 
 Decimal Decimal::FromDigits(std::string_view DigitsA, bool NegativeA) {

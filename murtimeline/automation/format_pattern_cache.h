@@ -33,7 +33,7 @@ class PatternCache {
 
   const String mCurrency;
   std::mutex mMutex;
-  std::array<Entry, 8> mEntries;
+  std::array<Entry, 16> mEntries;
   std::size_t mOldest = 0;
 };
 
