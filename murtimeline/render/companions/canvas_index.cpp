@@ -5,9 +5,14 @@
 
 #include <murtimeline/automation/narrow.h>
 #include <murtimeline/render/companions/canvas_index.h>
+#include <murtimeline/render/companions/prefetch.h>
 
 namespace mur {
 namespace {
+
+// Entries are in order of space, places in order of creation: without looking ahead, each would be waited
+// for.
+constexpr std::size_t kLookAhead = 16;
 
 template <class Place>
 auto RowKey(const Place& PlaceA) {
@@ -96,6 +101,7 @@ void CanvasIndex::KeepEntries(bool ReloadA) {
     const std::size_t begin = kept;
     bool ordered = true;
     for (; from < row.end; ++from) {
+      if (from + kLookAhead < mEntries.size()) Prefetch(&mPlaces[mEntries[from + kLookAhead].slot]);
       Entry entry = mEntries[from];
       if (!Keep(entry, row, ReloadA)) continue;
       ordered = ordered && (kept == begin || mEntries[kept - 1].left <= entry.left);

@@ -1,32 +1,53 @@
+#include <vector>
+
 #include <murtimeline/automation/error.h>
 #include <murtimeline/automation/narrow.h>
 #include <murtimeline/automation/selector.h>
+#include <murtimeline/render/companions/scale_painter.h>
 #include <murtimeline/render/companions/scroll_control.h>
 
 namespace mur {
 
-MURTimelineScroll::MURTimelineScroll(ChildHost& HostA) : mHost(HostA), mLink(Make<HostLink>(HostA)) {}
+MURTimelineScroll::MURTimelineScroll(ChildHost& HostA) : mHost(HostA), mLink(Make<HostLink>(HostA)) {
+  mSettings.worldTimeT0 = mSettings.tZero = Now();
+}
 
 MURTimelineScroll::~MURTimelineScroll() {
   mLink->Cut();
 }
 
 void MURTimelineScroll::Paint(Surface& SurfaceA, const RectF& DirtyA) {
-  SurfaceA.FillRectangle(DirtyA, ResolveColor(mBackColor, mHost));
+  std::vector<const TimeScaleMarker*> markers;
+  for (std::size_t slot = mMarkers.NextSlot(0); slot != Markers::kNone; slot = mMarkers.NextSlot(slot + 1))
+    markers.push_back(mMarkers.At(slot).Get());
+  SurfaceA.PushClip(DirtyA);
+  ScalePainter(SurfaceA, mHost, mSettings).Paint(markers);
+  SurfaceA.PopClip();
 }
 
 void MURTimelineScroll::SetWorldTimeT0(Date WorldTimeA) {
-  Set(mWorldTimeT0, WorldTimeA);
+  if (mSettings.worldTimeT0 == WorldTimeA) return;
+  Set(mSettings.worldTimeT0, WorldTimeA);
   VisibleRangeChanged.Raise();
 }
 
 void MURTimelineScroll::SetDuration(double SecondsA) {
-  Set(mDuration, SecondsA);
+  if (mSettings.duration == SecondsA) return;
+  Set(mSettings.duration, SecondsA);
   VisibleRangeChanged.Raise();
 }
 
 void MURTimelineScroll::SetCursorTime(Date WorldTimeA) {
-  Set(mCursorTime, WorldTimeA);
+  InvalidateCursor();
+  mSettings.cursorTime = WorldTimeA;
+  InvalidateCursor();
+}
+
+void MURTimelineScroll::InvalidateCursor() const {
+  const float width = mHost.Width() / ChildHost::kTwipsPerPixel;
+  constexpr float kReach = ScalePainter::kCursorReach;
+  if (const auto x = ShownX(mSettings, mSettings.cursorTime, width))
+    mLink->Invalidate({*x - kReach, 0, 2 * kReach, mHost.Height() / ChildHost::kTwipsPerPixel});
 }
 
 void MURTimelineScroll::MarkersClear() {

@@ -2,6 +2,7 @@
 
 #include <murtimeline/automation/export.h>
 #include <murtimeline/automation/keyed_sequence.h>
+#include <murtimeline/render/companions/scale_settings.h>
 #include <murtimeline/render/companions/scroll_interface.h>
 #include <murtimeline/render/companions/time_scale_marker.h>
 #include <murtimeline/render/port/surface.h>
@@ -20,40 +21,40 @@ class MUR_API MURTimelineScroll final : public ITimelineScroll {
   /// Draws what `DirtyA` (pixels) touches.
   void Paint(Surface& SurfaceA, const RectF& DirtyA);
 
-  Date WorldTimeT0() const override { return mWorldTimeT0; }
+  Date WorldTimeT0() const override { return mSettings.worldTimeT0; }
   void SetWorldTimeT0(Date WorldTimeA) override;
-  double Duration() const override { return mDuration; }
+  double Duration() const override { return mSettings.duration; }
   void SetDuration(double SecondsA) override;
-  Date TZero() const override { return mTZero; }
-  void SetTZero(Date WorldTimeA) override { Set(mTZero, WorldTimeA); }
-  std::int32_t TimesOffsetMode() const override { return mTimesOffsetMode; }
-  void SetTimesOffsetMode(std::int32_t ModeA) override { Set(mTimesOffsetMode, ModeA); }
-  Date CursorTime() const override { return mCursorTime; }
+  Date TZero() const override { return mSettings.tZero; }
+  void SetTZero(Date WorldTimeA) override { Set(mSettings.tZero, WorldTimeA); }
+  std::int32_t TimesOffsetMode() const override { return mSettings.timesOffsetMode; }
+  void SetTimesOffsetMode(std::int32_t ModeA) override { Set(mSettings.timesOffsetMode, ModeA); }
+  Date CursorTime() const override { return mSettings.cursorTime; }
   /// Keeps the time to the bit; raises nothing.
   void SetCursorTime(Date WorldTimeA) override;
-  String TimeScaleFormatString() const override { return mFormatString; }
-  void SetTimeScaleFormatString(StringView FormatA) override { Set(mFormatString, String(FormatA)); }
-  std::int32_t TimeScaleFormatStyle() const override { return mFormatStyle; }
-  void SetTimeScaleFormatStyle(std::int32_t StyleA) override { Set(mFormatStyle, StyleA); }
-  OleColor TimeScaleBackColor() const override { return mBackColor; }
-  void SetTimeScaleBackColor(OleColor ColorA) override { Set(mBackColor, ColorA); }
-  OleColor TimeScaleForeColor() const override { return mForeColor; }
-  void SetTimeScaleForeColor(OleColor ColorA) override { Set(mForeColor, ColorA); }
-  OleColor TimeScaleMarkerHighlightColor() const override { return mHighlightColor; }
-  void SetTimeScaleMarkerHighlightColor(OleColor ColorA) override { Set(mHighlightColor, ColorA); }
-  float TimeScaleMarkerHighlightWidth() const override { return mHighlightWidth; }
-  void SetTimeScaleMarkerHighlightWidth(float WidthA) override { Set(mHighlightWidth, WidthA); }
+  String TimeScaleFormatString() const override { return mSettings.formatString; }
+  void SetTimeScaleFormatString(StringView FormatA) override { Set(mSettings.formatString, String(FormatA)); }
+  std::int32_t TimeScaleFormatStyle() const override { return mSettings.formatStyle; }
+  void SetTimeScaleFormatStyle(std::int32_t StyleA) override { Set(mSettings.formatStyle, StyleA); }
+  OleColor TimeScaleBackColor() const override { return mSettings.backColor; }
+  void SetTimeScaleBackColor(OleColor ColorA) override { Set(mSettings.backColor, ColorA); }
+  OleColor TimeScaleForeColor() const override { return mSettings.foreColor; }
+  void SetTimeScaleForeColor(OleColor ColorA) override { Set(mSettings.foreColor, ColorA); }
+  OleColor TimeScaleMarkerHighlightColor() const override { return mSettings.highlightColor; }
+  void SetTimeScaleMarkerHighlightColor(OleColor ColorA) override { Set(mSettings.highlightColor, ColorA); }
+  float TimeScaleMarkerHighlightWidth() const override { return mSettings.highlightWidth; }
+  void SetTimeScaleMarkerHighlightWidth(float WidthA) override { Set(mSettings.highlightWidth, WidthA); }
 
-  std::int16_t BorderStyle() const override { return mBorderStyle; }
-  void SetBorderStyle(std::int16_t StyleA) override { Set(mBorderStyle, StyleA); }
-  std::int16_t TickEdge() const override { return mTickEdge; }
-  void SetTickEdge(std::int16_t EdgeA) override { Set(mTickEdge, EdgeA); }
-  bool ShowCursor() const override { return mShowCursor; }
-  void SetShowCursor(bool ShowA) override { Set(mShowCursor, ShowA); }
-  std::int32_t LabelFontSize() const override { return mLabelFontSize; }
-  void SetLabelFontSize(std::int32_t SizeA) override { Set(mLabelFontSize, SizeA); }
-  bool ShowMarkers() const override { return mShowMarkers; }
-  void SetShowMarkers(bool ShowA) override { Set(mShowMarkers, ShowA); }
+  std::int16_t BorderStyle() const override { return mSettings.borderStyle; }
+  void SetBorderStyle(std::int16_t StyleA) override { Set(mSettings.borderStyle, StyleA); }
+  std::int16_t TickEdge() const override { return mSettings.tickEdge; }
+  void SetTickEdge(std::int16_t EdgeA) override { Set(mSettings.tickEdge, EdgeA); }
+  bool ShowCursor() const override { return mSettings.showCursor; }
+  void SetShowCursor(bool ShowA) override { Set(mSettings.showCursor, ShowA); }
+  std::int32_t LabelFontSize() const override { return mSettings.labelFontSize; }
+  void SetLabelFontSize(std::int32_t SizeA) override { Set(mSettings.labelFontSize, SizeA); }
+  bool ShowMarkers() const override { return mSettings.showMarkers; }
+  void SetShowMarkers(bool ShowA) override { Set(mSettings.showMarkers, ShowA); }
 
   void MarkersClear() override;
   std::int32_t MarkersCount() const override;
@@ -67,6 +68,8 @@ class MUR_API MURTimelineScroll final : public ITimelineScroll {
   };
   using Markers = KeyedSequence<Ref<TimeScaleMarker>, KeyOf>;
 
+  void InvalidateCursor() const;
+
   template <class T>
   void Set(T& FieldA, T ValueA) {
     FieldA = std::move(ValueA);
@@ -76,22 +79,7 @@ class MUR_API MURTimelineScroll final : public ITimelineScroll {
   ChildHost& mHost;
   Ref<HostLink> mLink;
   Markers mMarkers;
-  String mFormatString;
-  Date mWorldTimeT0 = Now();
-  Date mTZero = mWorldTimeT0;
-  Date mCursorTime;
-  double mDuration = 3600;
-  std::int32_t mTimesOffsetMode = 0;
-  std::int32_t mFormatStyle = 4;
-  OleColor mBackColor = 0x80000005;       // window
-  OleColor mForeColor = 0x80000008;       // window text
-  OleColor mHighlightColor = 0x8000000D;  // highlight
-  float mHighlightWidth = 1;
-  std::int32_t mLabelFontSize = 9;
-  std::int16_t mBorderStyle = 0;
-  std::int16_t mTickEdge = 1;
-  bool mShowCursor = true;
-  bool mShowMarkers = true;
+  ScaleSettings mSettings;
 };
 
 }  // namespace mur

@@ -1,0 +1,208 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include <murtimeline/render/companions/color_math.h>
+#include <murtimeline/render/companions/scale_painter.h>
+
+namespace mur {
+namespace {
+
+constexpr float kMajorLength = 7;
+constexpr float kMinorLength = 4;
+constexpr float kLabelGap = 10;
+constexpr float kTextInset = 4;
+constexpr float kLeastMinorDistance = 5;
+constexpr std::int64_t kMostMinorsPerMajor = 10;
+constexpr Rgba kCursorColor{208, 32, 32, 255};
+
+float FontPixels(std::int32_t PointsA) {
+  return static_cast<float>(std::clamp<std::int32_t>(PointsA, 5, 72)) * 96 / 72;
+}
+
+}  // namespace
+
+ScalePainter::ScalePainter(Surface& SurfaceA, const ChildHost& HostA, const ScaleSettings& SettingsA)
+    : mSurface(SurfaceA),
+      mSettings(SettingsA),
+      mTexts(SettingsA),
+      mWidth(HostA.Width() / ChildHost::kTwipsPerPixel),
+      mHeight(HostA.Height() / ChildHost::kTwipsPerPixel),
+      mTicksBelow(SettingsA.tickEdge == 1),
+      mBack(ResolveColor(SettingsA.backColor, HostA)),
+      mFore(ReadableOn(mBack, ResolveColor(SettingsA.foreColor, HostA))),
+      mHighlight(ResolveColor(SettingsA.highlightColor, HostA)) {
+  const float size = FontPixels(SettingsA.labelFontSize);
+  mLabelStyle = {size, false, mFore};
+  mContextStyle = {size, false, ReadableOn(mBack, Mixed(mBack, mFore, 0.75F))};
+  mFlagStyle = {size - 1, false, ReadableOn(mHighlight, mBack)};
+  LayOutBands();
+}
+
+void ScalePainter::Paint(const std::vector<const TimeScaleMarker*>& MarkersA) {
+  mSurface.FillRectangle({0, 0, mWidth, mHeight}, mBack);
+  mSurface.FillRectangle({0, mTicksBelow ? mHeight - 1 : 0, mWidth, 1}, Mixed(mBack, mFore, 0.35F));
+  if (mSettings.showMarkers && mContext.IsShown())
+    mFlags =
+        LayOutFlags(mSurface, MarkersA, mSettings, {0, mContext.top, mWidth, mContext.height}, mFlagStyle);
+  if (const auto range = RangeOf(mSettings, mTexts.OriginSeconds(), mWidth)) DrawTicks(*range);
+  DrawFlags();
+  if (mSettings.showCursor) DrawCursor();
+  if (mSettings.borderStyle != 0)
+    mSurface.FrameRectangle({0, 0, mWidth, mHeight}, Mixed(mBack, mFore, 0.5F), 1);
+}
+
+// The rows share what the ticks leave; the context goes first where there is too little.
+void ScalePainter::LayOutBands() {
+  const float line = mSurface.MeasureText(u"0", mLabelStyle).Height();
+  const float room = mHeight - kMajorLength - 1;
+  const float rows = std::clamp(std::floor(room / std::max(line, 1.0F)), 0.0F, 2.0F);
+  if (rows == 0) return;
+  const float height = room / rows;
+  const float outer = mTicksBelow ? 0 : mHeight - height;
+  const float inner = mTicksBelow ? room - height : mHeight - room;
+  mLabels = {inner, height};
+  if (rows == 2) mContext = {outer, height};
+}
+
+void ScalePainter::DrawTicks(const ScaleRange& RangeA) {
+  const TickStep* major = MajorStep(RangeA);
+  if (!major) return;
+  if (const TickStep* minor = MinorStep(RangeA, *major))
+    DrawTickRow(RangeA, *minor, kMinorLength, Mixed(mBack, mFore, 0.35F));
+  DrawTickRow(RangeA, *major, kMajorLength, Mixed(mBack, mFore, 0.6F));
+  if (mLabels.IsShown()) DrawLabels(RangeA, *major);
+  if (mContext.IsShown()) DrawContext(RangeA, *major);
+}
+
+// The smallest step whose labels have room and differ from each other.
+const TickStep* ScalePainter::MajorStep(const ScaleRange& RangeA) const {
+  for (const TickStep& step : mTexts.Ladder()) {
+    const float distance = RangeA.PixelsOf(step.Seconds());
+    const bool labelsDiffer = step.IsCalendar() || step.milliseconds % mTexts.LabelGranularity() == 0;
+    if (labelsDiffer && distance > 2 * kLabelGap && WidestLabel(RangeA, step) + kLabelGap <= distance)
+      return &step;
+  }
+  return nullptr;
+}
+
+const TickStep* ScalePainter::MinorStep(const ScaleRange& RangeA, const TickStep& MajorA) const {
+  for (const TickStep& step : mTexts.Ladder())
+    if (RangeA.PixelsOf(step.Seconds()) >= kLeastMinorDistance && step.Divides(MajorA) &&
+        MajorA.Seconds() <= step.Seconds() * (kMostMinorsPerMajor + 0.5))
+      return step.Seconds() < MajorA.Seconds() ? &step : nullptr;
+  return nullptr;
+}
+
+// Of the labels at the two ends, which stand for all.
+float ScalePainter::WidestLabel(const ScaleRange& RangeA, const TickStep& StepA) const {
+  float widest = 0;
+  for (const std::int64_t time : {RangeA.first, RangeA.last}) {
+    const String label = mTexts.Label(StepA, StepA.TimeOf(StepA.NumberAt(time)));
+    widest = std::max(widest, mSurface.MeasureText(label, mLabelStyle).width);
+  }
+  return widest;
+}
+
+void ScalePainter::DrawTickRow(const ScaleRange& RangeA, const TickStep& StepA, float LengthA, Rgba ColorA) {
+  const float top = mTicksBelow ? mHeight - LengthA : 0;
+  for (std::int64_t number = StepA.NumberAt(RangeA.first); StepA.TimeOf(number) <= RangeA.last; ++number)
+    if (StepA.TimeOf(number) >= RangeA.first)
+      mSurface.FillRectangle({Aligned(RangeA.XOf(StepA.TimeOf(number))), top, 1, LengthA}, ColorA);
+}
+
+void ScalePainter::DrawLabels(const ScaleRange& RangeA, const TickStep& StepA) {
+  float taken = kTextInset / 2;
+  for (std::int64_t number = StepA.NumberAt(RangeA.first); StepA.TimeOf(number) <= RangeA.last; ++number) {
+    const std::int64_t time = StepA.TimeOf(number);
+    if (time < RangeA.first) continue;
+    const MeasuredText text = MeasureForRoom(mSurface, mTexts.Label(StepA, time), mLabelStyle, mWidth);
+    const float width = text.extent.width;
+    // About its tick, but whole: at the ends of the scale a label gives way inwards.
+    const float most = mWidth - kTextInset / 2 - width;
+    const float left = std::min(std::max(RangeA.XOf(time) - width / 2, kTextInset / 2), most);
+    if (left < taken || text.text.empty()) continue;
+    DrawText(left, mLabels, text, mLabelStyle);
+    taken = left + width + kTextInset;
+  }
+}
+
+void ScalePainter::DrawContext(const ScaleRange& RangeA, const TickStep& StepA) {
+  const TickStep* context = mTexts.ContextStep(StepA);
+  if (!context) return;
+  for (std::int64_t number = context->NumberAt(RangeA.first); context->TimeOf(number) <= RangeA.last;
+       ++number) {
+    const std::int64_t time = context->TimeOf(number);
+    const float left = RangeA.XOf(time);
+    if (time >= RangeA.first)
+      mSurface.FillRectangle({Aligned(left), mContext.top, 1, mContext.height}, Mixed(mBack, mFore, 0.25F));
+    DrawContextSpan(*context, time, std::max(left, 0.0F),
+                    std::min(RangeA.XOf(context->TimeOf(number + 1)), mWidth));
+  }
+}
+
+void ScalePainter::DrawContextSpan(const TickStep& StepA, std::int64_t TimeA, float LeftA, float RightA) {
+  for (const bool isBrief : {false, true}) {
+    const MeasuredText text =
+        MeasureForRoom(mSurface, mTexts.Context(StepA, TimeA, isBrief), mContextStyle, mWidth);
+    const float left = PastFlags(LeftA + kTextInset, text.extent.width);
+    if (text.text.empty() || left + text.extent.width + kTextInset > RightA) continue;
+    DrawText(left, mContext, text, mContextStyle);
+    return;
+  }
+}
+
+// The first place at or after `LeftA` where that width is free of flags and poles.
+float ScalePainter::PastFlags(float LeftA, float WidthA) const {
+  float left = LeftA;
+  for (const MarkerFlag& flag : mFlags) {
+    const float begin = flag.box.IsEmpty() ? flag.x : std::min(flag.x, flag.box.left);
+    const float end = std::max(flag.x, flag.box.Right());
+    if (begin < left + WidthA + kTextInset && end > left - kTextInset) left = end + kTextInset;
+  }
+  return left;
+}
+
+void ScalePainter::DrawFlags() {
+  const float width = mSettings.highlightWidth >= 1 ? std::min(mSettings.highlightWidth, 8.0F) : 1;
+  const float top = mTicksBelow ? mContext.top : 0;
+  const float bottom = mTicksBelow ? mHeight : mContext.top + mContext.height;
+  for (const MarkerFlag& flag : mFlags) {
+    mSurface.FillRectangle({Aligned(flag.x - (width - 1) / 2), top, width, bottom - top}, mHighlight);
+    if (flag.box.IsEmpty()) continue;
+    mSurface.FillRectangle({Aligned(flag.box.left), flag.box.top + 1, flag.box.width, flag.box.height - 2},
+                           mHighlight);
+    if (!flag.text.text.empty())
+      DrawText(flag.box.left + (flag.box.width - flag.text.extent.width) / 2, mContext, flag.text,
+               mFlagStyle);
+  }
+}
+
+// A line with a handle that points at the canvas.
+void ScalePainter::DrawCursor() {
+  constexpr float kHandleHeight = 7;
+  const auto shown = ShownX(mSettings, mSettings.cursorTime, mWidth);
+  if (!shown) return;
+  const float x = Aligned(*shown - 0.5F);
+  const float tip = mTicksBelow ? mHeight : 0;
+  const float base = mTicksBelow ? mHeight - kHandleHeight : kHandleHeight;
+  mSurface.FillRectangle({x, 0, 1, mHeight}, kCursorColor);
+  const float middle = x + 0.5F;
+  const std::array<PointF, 3> handle = {{{middle - 5, base}, {middle + 5, base}, {middle, tip}}};
+  mSurface.FillPolygon(handle, kCursorColor);
+}
+
+// On a device pixel, and so that a line of one pixel there is still on the scale.
+float ScalePainter::Aligned(float PixelA) const {
+  const float ratio = mSurface.DevicePixelRatio();
+  return std::min(std::round(PixelA * ratio) / ratio, mWidth - 1);
+}
+
+void ScalePainter::DrawText(float LeftA, const Band& BandA, const MeasuredText& TextA,
+                            const TextStyle& StyleA) {
+  const float ratio = mSurface.DevicePixelRatio();
+  const float baseline = std::round(CentredBaseline(BandA.Middle(), TextA.extent) * ratio) / ratio;
+  mSurface.DrawTextLine({LeftA, baseline}, TextA.text, StyleA);
+}
+
+}  // namespace mur

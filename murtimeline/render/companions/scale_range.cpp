@@ -1,0 +1,30 @@
+#include <cmath>
+
+#include <murtimeline/automation/narrow.h>
+#include <murtimeline/render/companions/scale_range.h>
+#include <murtimeline/render/companions/tick_ladder.h>
+
+namespace mur {
+
+float ScaleRange::XOf(std::int64_t TimeA) const {
+  return PixelsOf(originFromStart + static_cast<double>(TimeA) / static_cast<double>(kMillisecondsPerSecond));
+}
+
+std::optional<ScaleRange> RangeOf(const ScaleSettings& SettingsA, double OriginSecondsA, float WidthA) {
+  constexpr double kFarthest = 4e15;  // seconds; in milliseconds with room for a step more
+  const double start = SettingsA.StartSeconds() - OriginSecondsA;
+  const double end = start + SettingsA.duration;
+  if (!(WidthA > 0 && SettingsA.duration > 0 && std::fabs(start) < kFarthest && std::fabs(end) < kFarthest))
+    return {};
+  constexpr double kPerSecond = kMillisecondsPerSecond;
+  return ScaleRange{Narrow<std::int64_t>(std::ceil(start * kPerSecond)),
+                    Narrow<std::int64_t>(std::floor(end * kPerSecond)), -start, SettingsA.duration, WidthA};
+}
+
+std::optional<float> ShownX(const ScaleSettings& SettingsA, Date WorldTimeA, float WidthA) {
+  const double share = (WorldTimeA.Seconds() - SettingsA.StartSeconds()) / SettingsA.duration;
+  if (!(SettingsA.duration > 0 && WidthA > 0 && share >= 0 && share <= 1)) return {};
+  return static_cast<float>(share * static_cast<double>(WidthA));
+}
+
+}  // namespace mur
