@@ -41,30 +41,31 @@ Ref<ICanvasItem> BarDrawing::PlaceItem(const Ref<IMURTimelineObject>& ObjectA, i
   return item;
 }
 
-// Each item goes to the back after its children, so that parents lie behind them.
+// Each item goes to the back after its children, so that parents lie behind them. A failure ends the placing
+// of the object that it befell and of those below it, no more.
 void BarDrawing::PlaceObjectItemTree(const Ref<IMURTimelineObject>& ObjectA, int LevelA) {
-  ResumeNext([&] {
-    Ref<ICanvasItem> item = PlaceItem(ObjectA, LevelA);
+  ObjectPath path;
+  std::vector<Ref<ICanvasItem>> items;
+  const auto place = [&](const Ref<IMURTimelineObject>& object) {
+    const int level = Narrow<std::int16_t>(LevelA + static_cast<std::int64_t>(path.Depth()));
+    const Ref<ICanvasItem> item = PlaceItem(object, level);
     if (!item) return;
-    if (ObjectA->ChildCount() == 0) return item->ZOrder(kToBack);
-    ObjectPath path;
-    std::vector<Ref<ICanvasItem>> items{std::move(item)};
-    path.Enter(ObjectA);
-    while (!path.IsEmpty()) {
-      if (const Ref<IMURTimelineObject> child = path.NextChild()) {
-        const int level = Narrow<std::int16_t>(LevelA + static_cast<std::int64_t>(path.Depth()));
-        Ref<ICanvasItem> childItem;
-        ResumeNext([&] { childItem = PlaceItem(child, level); });
-        if (!childItem) continue;
-        path.Enter(child);
-        items.push_back(std::move(childItem));
-      } else {
-        ResumeNext([&] { items.back()->ZOrder(kToBack); });
-        items.pop_back();
-        path.Leave();
-      }
+    if (object->ChildCount() == 0) return item->ZOrder(kToBack);
+    path.Enter(object);
+    items.push_back(item);
+  };
+  ResumeNext([&] { place(ObjectA); });
+  while (!path.IsEmpty()) {
+    Ref<IMURTimelineObject> child;
+    const bool met = ResumeNext([&] { child = path.NextChild(); });
+    if (child) {
+      ResumeNext([&] { place(child); });
+      continue;
     }
-  });
+    if (met) ResumeNext([&] { items.back()->ZOrder(kToBack); });
+    items.pop_back();
+    path.Leave();
+  }
 }
 
 void BarDrawing::SpanItem(const IMURTimelineObject& ObjectA, ICanvasItem& ItemA, double DurationA) const {
@@ -124,13 +125,11 @@ void BarDrawing::RefreshTooltip(const IMURTimelineObject& ObjectA) {
 }
 
 void BarDrawing::RefreshColors(const IMURTimelineObject& ObjectA) {
-  ResumeNext([&] {
-    const Ref<ICanvasItem> item = ItemOf(ObjectA);
-    if (!item) return;
-    const Ref<CMURTLRenderConfig> config = mConfigs.Resolve(ObjectA);
-    item->SetForeColor(config->ForeColor());
-    item->SetBackColor(config->BackColor());
-  });
+  const Ref<ICanvasItem> item = ItemOf(ObjectA);
+  if (!item) return;
+  const Ref<CMURTLRenderConfig> config = mConfigs.Resolve(ObjectA);
+  item->SetForeColor(config->ForeColor());
+  item->SetBackColor(config->BackColor());
 }
 
 void BarDrawing::SetItemBackColor(const IMURTimelineObject& ObjectA, OleColor ColorA) {

@@ -6,8 +6,8 @@
 
 namespace mur {
 
-/// Keeps the canvas's items in step with the objects they stand for. No routine raises: those that work on
-/// one item end quietly at the first failing call, a missing item included.
+/// Keeps the canvas's items in step with the objects they stand for. No routine raises unless it says so:
+/// those that work on one item end quietly at the first failing call, a missing item included.
 class BarDrawing {
  public:
   explicit BarDrawing(RenderState& StateA) : mState(StateA), mCaptions(StateA), mTracks(StateA) {}
@@ -15,7 +15,7 @@ class BarDrawing {
   RenderConfigs& Configs() { return mConfigs; }
   const RenderConfigs& Configs() const { return mConfigs; }
 
-  /// The canvas's item of the object; none when there is none.
+  /// The canvas's item of the object; none when there is none. A failing key or look-up reaches the caller.
   Ref<ICanvasItem> ItemOf(const IMURTimelineObject& ObjectA) const;
 
   /// A bar for a new object, on its row, in its colours, with its tag at the middle site. It gets no extent
@@ -34,7 +34,7 @@ class BarDrawing {
   /// Writes the automatic captions of all sites anew.
   void RefreshCaptions(const IMURTimelineObject& ObjectA);
   void RefreshTooltip(const IMURTimelineObject& ObjectA);
-  /// The object's colours, from the configuration of its kind.
+  /// The object's colours, from the configuration of its kind. A failure of the item reaches the caller.
   void RefreshColors(const IMURTimelineObject& ObjectA);
   void SetItemBackColor(const IMURTimelineObject& ObjectA, OleColor ColorA);
 

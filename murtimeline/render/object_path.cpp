@@ -8,8 +8,9 @@ namespace mur {
 void ObjectPath::Enter(const Ref<IMURTimelineObject>& ObjectA) {
   if (mSteps.size() >= static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max()))
     throw AutomationError(ErrorCode::Overflow);
-  if (!mOnPath.insert(ObjectA.Get()).second) throw AutomationError(ErrorCode::OutOfStackSpace);
-  mSteps.push_back({ObjectA, ObjectA->ChildCount()});
+  const std::size_t count = ObjectA->ChildCount();
+  if (!mOnPath.insert(ObjectA.Get()).second) throw AutomationError(ErrorCode::Overflow);
+  mSteps.push_back({ObjectA, count});
 }
 
 Ref<IMURTimelineObject> ObjectPath::NextChild() {

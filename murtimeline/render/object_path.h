@@ -15,7 +15,8 @@ class ObjectPath {
   std::size_t Depth() const { return mSteps.size(); }
   const Ref<IMURTimelineObject>& Current() const { return mSteps.back().object; }
 
-  /// Steps down. Throws OutOfStackSpace when the object is on the path already, Overflow below 32,767 levels.
+  /// Steps down. Throws Overflow below 32,767 levels and for an object that is on the path already, which has
+  /// levels without end.
   void Enter(const Ref<IMURTimelineObject>& ObjectA);
   /// The next child of the current object; none when all were met. The count is read once, on entering.
   Ref<IMURTimelineObject> NextChild();

@@ -18,7 +18,7 @@ void ForEachUpwards(const Ref<IMURTimelineObject>& ObjectA, Visit&& VisitA) {
   for (Ref<IMURTimelineObject> object = ObjectA; object;) {
     VisitA(object);
     object = object->Parent();
-    if (object == landmark) throw AutomationError(ErrorCode::OutOfStackSpace);
+    if (object == landmark) throw AutomationError(ErrorCode::Overflow);
     if (++steps == limit) {
       landmark = object;
       steps = 0;

@@ -4,14 +4,15 @@
 
 namespace mur {
 
-/// The top-level ancestor, the object itself when it has no parent. Throws OutOfStackSpace for a ring.
+// A ring has more levels than can be counted: each of these throws Overflow for it.
+
+/// The top-level ancestor, the object itself when it has no parent.
 Ref<IMURTimelineObject> GetRootObject(const Ref<IMURTimelineObject>& ObjectA);
 
-/// 1 + the number of ancestors. Throws Overflow beyond 32,767, OutOfStackSpace for a ring.
+/// 1 + the number of ancestors. Throws Overflow beyond 32,767.
 int GetNestingLevel(const Ref<IMURTimelineObject>& ObjectA);
 
-/// 1 + the depth of the deepest child. Throws Overflow beyond 32,767, OutOfStackSpace for an object that
-/// contains itself.
+/// 1 + the depth of the deepest child. Throws Overflow beyond 32,767.
 int GetSubtreeDepth(const Ref<IMURTimelineObject>& ObjectA);
 
 }  // namespace mur

@@ -6,6 +6,14 @@ namespace mur {
 
 using ObjectRef = Ref<IMURTimelineObject>;
 
+namespace {
+// The object of a report; a host's own group or sink may have named none.
+IMURTimelineObject& Named(const ObjectRef& ObjectA) {
+  if (!ObjectA) throw AutomationError(ErrorCode::ObjectNotSet);
+  return *ObjectA;
+}
+}  // namespace
+
 void TimelineReactions::Attach() {
   Detach();
   if (!mState.timeline) return;
@@ -44,31 +52,33 @@ void TimelineReactions::OnObjectRemoved(const Variant& KeyIdxA) {
 
 void TimelineReactions::OnObjectAdopted(const ObjectRef& ParentA, const ObjectRef& ChildA) {
   ResumeNext([&] {
+    const IMURTimelineObject& child = Named(ChildA);
     mDrawing.PlaceObjectItemTree(ChildA, GetNestingLevel(ChildA));
-    mDrawing.RefreshCaptions(*ChildA);
-    mDrawing.RefreshCaptions(*ParentA);
+    mDrawing.RefreshCaptions(child);
+    mDrawing.RefreshCaptions(Named(ParentA));
   });
 }
 
 // The child's bar keeps its row: it is adoption that places, by contract.
 void TimelineReactions::OnObjectOrphaned(const ObjectRef& ParentA, const ObjectRef& ChildA) {
-  ResumeNext([&] { mDrawing.RefreshCaptions(*ChildA); });
-  ResumeNext([&] { mDrawing.RefreshCaptions(*ParentA); });
+  ResumeNext([&] { mDrawing.RefreshCaptions(Named(ChildA)); });
+  ResumeNext([&] { mDrawing.RefreshCaptions(Named(ParentA)); });
 }
 
 // A group or scalar reports its start as "WorldtimeT0", which is no name of this list: its bar follows with
 // the next full repaint, by contract.
 void TimelineReactions::OnObjectPropertyChanged(const ObjectRef& ObjectA, StringView PropNameA) {
   ResumeNext([&] {
+    const IMURTimelineObject& object = Named(ObjectA);
     if (PropNameA == u"Duration")
-      mDrawing.UpdateItemSpan(*ObjectA, ObjectA->Duration());
+      mDrawing.UpdateItemSpan(object, object.Duration());
     else if (PropNameA == u"WorldTimeT0")
-      mDrawing.UpdateItemLeft(*ObjectA, ObjectA->WorldTimeT0());
+      mDrawing.UpdateItemLeft(object, object.WorldTimeT0());
     else if (PropNameA == u"Offset" || PropNameA == u"Tag")
-      mDrawing.RefreshCaptions(*ObjectA);
+      mDrawing.RefreshCaptions(object);
     else if (PropNameA == u"GroupType")
-      mDrawing.RefreshColors(*ObjectA);
-    mDrawing.RefreshTooltip(*ObjectA);
+      mDrawing.RefreshColors(object);
+    mDrawing.RefreshTooltip(object);
   });
 }
 

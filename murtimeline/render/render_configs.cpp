@@ -1,3 +1,4 @@
+#include <murtimeline/automation/guard.h>
 #include <murtimeline/automation/numeric_text.h>
 #include <murtimeline/automation/regional.h>
 #include <murtimeline/render/render_configs.h>
@@ -26,9 +27,12 @@ Ref<CMURTLRenderConfig> RenderConfigs::Add(const Variant& KeyIndexA) {
 }
 
 Ref<CMURTLRenderConfig> RenderConfigs::Resolve(const IMURTimelineObject& ObjectA) const {
-  if (mConfigs->Count() == 0) return mDefault;
-  const MURTimelineObjectType type = ObjectA.ObjectType();
-  const Ref<CMURTLRenderConfig> config = Find(type != murtlotGroup ? type : ObjectA.GroupType());
+  Ref<CMURTLRenderConfig> config;
+  if (mConfigs->Count() > 0)
+    ResumeNext([&] {
+      const MURTimelineObjectType type = ObjectA.ObjectType();
+      config = Find(type != murtlotGroup ? type : ObjectA.GroupType());
+    });
   return config ? config : mDefault;
 }
 

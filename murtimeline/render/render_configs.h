@@ -17,7 +17,8 @@ class RenderConfigs {
   Ref<CMURTLRenderConfig> Find(const Variant& KeyIndexA) const;
   /// The entry under that key, new with the start colours if need be.
   Ref<CMURTLRenderConfig> Add(const Variant& KeyIndexA);
-  /// The entry for the object's kind (a group's group type, else its object type), or the default.
+  /// The entry for the object's kind (a group's group type, else its object type), or the default. Never
+  /// raises an error.
   Ref<CMURTLRenderConfig> Resolve(const IMURTimelineObject& ObjectA) const;
 
  private:

@@ -41,8 +41,10 @@ void TimeAxis::PutCursorTime(Date TimeA) {
 }
 
 void TimeAxis::CreateCursorItem() {
-  mState.Canvas().SetScaleMode(kPixels);
-  if (mState.Canvas().AddGraphic(kCursorKey, kCursorItem)) SetCursorTime(Now());
+  ResumeNext([&] {
+    mState.Canvas().SetScaleMode(kPixels);
+    if (mState.Canvas().AddGraphic(kCursorKey, kCursorItem)) SetCursorTime(Now());
+  });
 }
 
 Date TimeAxis::XToWorldTime(float XA) const {

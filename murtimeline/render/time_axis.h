@@ -18,8 +18,8 @@ class TimeAxis {
   void SetCursorTime(Date TimeA);
   /// The same, for a time that differs from the present one.
   void PutCursorTime(Date TimeA);
-  /// Adds the cursor item to the canvas, unless it has one, and sets the cursor to the present time. An error
-  /// of the canvas reaches the caller.
+  /// Adds the cursor item to the canvas and, unless that has one, sets the cursor to the present time. Never
+  /// raises an error.
   void CreateCursorItem();
   /// The world time at a canvas x; date 0 where that is no date. Throws Overflow when it is no number.
   Date XToWorldTime(float XA) const;

@@ -29,6 +29,11 @@ Companions Completed(Companions CompanionsA, ControlHost& HostA) {
   return CompanionsA;
 }
 
+// A difference of the layout; throws Overflow where it leaves the single range.
+float Less(double FromA, double ByA) {
+  return NarrowToSingle(FromA - ByA);
+}
+
 }  // namespace
 
 MURTimelineRender::MURTimelineRender(ControlHost& HostA, Companions CompanionsA)
@@ -60,11 +65,11 @@ void MURTimelineRender::WriteStartSettings() {
 }
 
 void MURTimelineRender::ForwardScrollerEvents() {
-  // Calls `HandlerA` with the control kept alive, whatever the host does in it.
+  // Calls the handler with the control kept alive, whatever the host does in it; its failure ends here.
   const auto listen = [this]<class... Arguments>(Event<Arguments...>& event, auto handler) {
     mParts->companionEvents.push_back(event.Connect([this, handler](Arguments... arguments) {
       const Ref<MURTimelineRender> keep(this);
-      handler(arguments...);
+      ResumeNext([&] { handler(arguments...); });
     }));
   };
   const auto forward = [&]<class... Arguments>(Event<Arguments...>& from, Event<Arguments...>& to) {
@@ -88,15 +93,14 @@ void MURTimelineRender::ForwardScrollerEvents() {
 }
 
 void MURTimelineRender::Resize() {
+  const Ref<MURTimelineRender> keep(this);
   const RenderState& state = mParts->state;
   MovableControl& scroller = state.host.ScrollerHost();
-  const auto single = [](double value) { return NarrowToSingle(value); };
   const float margin = state.margin;
-  MoveControl(scroller, margin, margin, single(state.host.ScaleWidth() - single(margin + margin)),
-              scroller.Height());
+  const float width = Less(state.host.ScaleWidth(), margin + margin);
+  MoveControl(scroller, margin, margin, width, scroller.Height());
   const float top = ControlBottom(&scroller);
-  MoveControl(state.host.CanvasHost(), margin, top, single(state.host.ScaleWidth() - single(margin + margin)),
-              single(state.host.ScaleHeight() - single(static_cast<double>(top) + margin)));
+  MoveControl(state.host.CanvasHost(), margin, top, width, Less(state.host.ScaleHeight(), top + margin));
 }
 
 Ref<CMURTimeline> MURTimelineRender::Timeline() const {
@@ -107,7 +111,7 @@ void MURTimelineRender::SetTimeline(const Ref<CMURTimeline>& TimelineA) {
   const Ref<MURTimelineRender> keep(this);
   mParts->state.timeline = TimelineA;
   mParts->reactions.Attach();
-  if (TimelineA) ResumeNext([&] { mParts->axis.CreateCursorItem(); });
+  if (TimelineA) mParts->axis.CreateCursorItem();
 }
 
 void MURTimelineRender::ShowMembers() {
@@ -115,7 +119,9 @@ void MURTimelineRender::ShowMembers() {
   if (!mParts->state.timeline) return;
   auto members = mParts->state.timeline->NewEnum();
   while (const Ref<IMURTimelineObject> member = members.Next())
-    if (!mParts->drawing.ItemOf(*member)) mParts->drawing.AddBar(member);
+    ResumeNext([&] {
+      if (!mParts->drawing.ItemOf(*member)) mParts->drawing.AddBar(member);
+    });
   Repaint();
 }
 
@@ -125,9 +131,11 @@ void MURTimelineRender::Repaint() {
 }
 
 float MURTimelineRender::TrackTop(const Variant& TrackKeyIndexA) const {
+  const Ref<const MURTimelineRender> keep(this);
+  const RenderState& state = mParts->state;
   float top = 0;
+  if (!state.timeline) return top;
   ResumeNext([&] {
-    const RenderState& state = mParts->state;
     const Ref<IMURTimelineObject> object =
         state.timeline->ItemByKey(state.timeline->TrackKey(TrackKeyIndexA));
     const Ref<ICanvasItem> item = object ? mParts->drawing.ItemOf(*object) : Ref<ICanvasItem>();

@@ -43,7 +43,7 @@ class MUR_API MURTimelineRender final : public Object {
 
   Ref<CMURTimeline> Timeline() const;
   /// Attaches a time line (none detaches quietly), creates the cursor item if there is none and sets it to
-  /// the present time. Bars that are shown stay.
+  /// the present time then. Bars that are shown stay.
   void SetTimeline(const Ref<CMURTimeline>& TimelineA);
   /// Gives every member that has no bar yet its bar, through the steps of an added object, and places all of
   /// them on the time axis.

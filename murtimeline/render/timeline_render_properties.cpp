@@ -231,6 +231,7 @@ bool MURTimelineRender::AutoHighlightObjects() const {
 }
 
 void MURTimelineRender::SetAutoHighlightObjects(bool HighlightA) {
+  const Ref<MURTimelineRender> keep(this);
   if (mParts->state.autoHighlightObjects == HighlightA) return;
   mParts->state.autoHighlightObjects = HighlightA;
   HighlightObjectsAtCursor(true);
@@ -253,6 +254,7 @@ bool MURTimelineRender::AllowObjectDragging() const {
 }
 
 void MURTimelineRender::SetAllowObjectDragging(bool AllowA) {
+  const Ref<MURTimelineRender> keep(this);
   if (mParts->state.allowObjectDragging == AllowA) return;
   mParts->state.allowObjectDragging = AllowA;
   constexpr int kEveryDrag = 15;

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -35,6 +36,12 @@ String ReplaceAll(StringView TextA, StringView PatternA, StringView ByA) {
   return result += TextA.substr(from);
 }
 
+// Where a mark is left over, in the template or in a text that was put in, a placeholder of a later kind may
+// come about.
+bool HasMark(StringView TextA) {
+  return TextA.find(u'$') != StringView::npos;
+}
+
 // The rule itself, step by step.
 String ExpandStepwise(StringView TemplateA, const TooltipTemplate::Compose& ComposeA) {
   String text(TemplateA);
@@ -46,12 +53,11 @@ String ExpandStepwise(StringView TemplateA, const TooltipTemplate::Compose& Comp
 
 }  // namespace
 
-void TooltipTemplate::Split(StringView TemplateA) {
-  mTemplate = TemplateA;
-  mPieces.assign(1, Piece{0, mTemplate});
+TooltipTemplate::Pieces TooltipTemplate::Split(StringView TemplateA) {
+  Pieces split{String(TemplateA), {Piece{0, String(TemplateA)}}};
   for (const Placeholder& placeholder : kPlaceholders) {
     std::vector<Piece> pieces;
-    for (Piece& piece : mPieces) {
+    for (Piece& piece : split.list) {
       std::size_t from = 0;
       if (piece.type == 0)
         for (std::size_t at; (at = FindIgnoringCase(piece.literal, placeholder.text, from)) != String::npos;
@@ -62,22 +68,22 @@ void TooltipTemplate::Split(StringView TemplateA) {
       piece.literal.erase(0, from);
       pieces.push_back(std::move(piece));
     }
-    mPieces = std::move(pieces);
+    split.list = std::move(pieces);
   }
-  std::erase_if(mPieces, [](const Piece& piece) { return piece.type == 0 && piece.literal.empty(); });
+  std::erase_if(split.list, [](const Piece& piece) { return piece.type == 0 && piece.literal.empty(); });
+  split.isPlain = std::none_of(split.list.begin(), split.list.end(),
+                               [](const Piece& piece) { return HasMark(piece.literal); });
+  return split;
 }
 
 String TooltipTemplate::Expand(StringView TemplateA, const Compose& ComposeA) {
-  if (mTemplate != TemplateA) Split(TemplateA);
+  if (!mPieces || mPieces->text != TemplateA) mPieces = std::make_shared<const Pieces>(Split(TemplateA));
+  const std::shared_ptr<const Pieces> pieces = mPieces;
+  if (!pieces->isPlain) return ExpandStepwise(pieces->text, ComposeA);
   String text;
-  for (const Piece& piece : mPieces) {
-    if (piece.type == 0) {
-      text += piece.literal;
-      continue;
-    }
-    const String composed = ComposeA(piece.type);
-    // A composed text with the mark in it may hold, or complete, a placeholder of a later kind.
-    if (composed.find(u'$') != String::npos) return ExpandStepwise(TemplateA, ComposeA);
+  for (const Piece& piece : pieces->list) {
+    const String composed = piece.type == 0 ? piece.literal : ComposeA(piece.type);
+    if (HasMark(composed)) return ExpandStepwise(pieces->text, ComposeA);
     text += composed;
   }
   return text;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include <murtimeline/automation/string.h>
@@ -24,11 +25,17 @@ class TooltipTemplate {
     String literal;
   };
 
-  void Split(StringView TemplateA);
+  struct Pieces {
+    String text;  // the template itself
+    std::vector<Piece> list;
+    bool isPlain = true;  // no mark but those of placeholders
+  };
 
-  // The pieces of the last template, for it is expanded again and again.
-  String mTemplate;
-  std::vector<Piece> mPieces;
+  static Pieces Split(StringView TemplateA);
+
+  // The last template, for it is expanded again and again; shared with the expansions that are going on,
+  // since composing a text may run host code.
+  std::shared_ptr<const Pieces> mPieces;
 };
 
 }  // namespace mur

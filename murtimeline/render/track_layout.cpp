@@ -8,8 +8,10 @@ namespace mur {
 float TrackLayout::ComputeTrackTop(const Ref<IMURTimelineObject>& ObjectA) {
   String scratch;
   const Ref<IMURTimelineObject> root = GetRootObject(ObjectA);
-  const std::size_t track = mState.timeline->TrackPosition(root->KeyView(scratch));
-  return track == 0 ? 0 : TopOfTrack(static_cast<std::size_t>(Narrow<std::int16_t>(track)));
+  const StringView key = root->KeyView(scratch);
+  const Ref<CMURTimeline> timeline = mState.timeline;
+  const std::size_t track = timeline ? timeline->TrackPosition(key) : 0;
+  return track == 0 ? 0 : TopOfTrack(*timeline, static_cast<std::size_t>(Narrow<std::int16_t>(track)));
 }
 
 float TrackLayout::ComputeTrackHeight(const Ref<IMURTimelineObject>& ObjectA) const {
@@ -20,17 +22,18 @@ float TrackLayout::ComputeTrackHeight(const Ref<IMURTimelineObject>& ObjectA) co
   return RowStep() * static_cast<float>(rows - 1) + mState.barHeight;
 }
 
-float TrackLayout::TopOfTrack(std::size_t TrackA) {
-  const Basis basis{mState.timeline.Get(), ShapeRevision(), mState.barHeight, mState.barSeparation,
+float TrackLayout::TopOfTrack(const CMURTimeline& TimelineA, std::size_t TrackA) {
+  const Basis basis{&TimelineA, ShapeRevision(), mState.barHeight, mState.barSeparation,
                     mState.trackSeparation};
   if (basis != mBasis) mTops.assign(1, 0.0f);
   mBasis = basis;
   bool lasting = true;
   while (mTops.size() < TrackA) {
-    const String key = mState.timeline->TrackKey(static_cast<std::int32_t>(mTops.size()));
-    const Ref<IMURTimelineObject> object = mState.timeline->ItemByKey(key);
+    const String key = TimelineA.TrackKey(static_cast<std::int32_t>(mTops.size()));
+    const Ref<IMURTimelineObject> object = TimelineA.ItemByKey(key);
     lasting = lasting && WatchUpwards(object);
-    mTops.push_back(mTops.back() + (ComputeTrackHeight(object) + mState.trackSeparation));
+    const float height = ComputeTrackHeight(object);
+    mTops.push_back(mTops.back() + (height + mState.trackSeparation));
   }
   const float top = mTops[TrackA - 1];
   if (!lasting) mBasis = Basis();
@@ -39,13 +42,15 @@ float TrackLayout::TopOfTrack(std::size_t TrackA) {
 
 // Whether the object and all above it will say when their depths or parents change.
 bool TrackLayout::WatchUpwards(const Ref<IMURTimelineObject>& ObjectA) const {
-  bool watched = true;
+  if (!ObjectA) return true;
+  bool watched = false;
   ResumeNext([&] {
-    if (!ObjectA) return;
     const Ref<IMURTimelineObject> root = GetRootObject(ObjectA);  // throws for a ring
-    for (Ref<IMURTimelineObject> object = ObjectA; object && watched; object = object->Parent())
-      watched = object->WatchShape();
-    watched = watched && root->KnownSubtreeDepth().has_value();
+    bool willSay = true;
+    for (Ref<IMURTimelineObject> object = ObjectA; object && willSay; object = object->Parent())
+      willSay = object->WatchShape();
+    watched = willSay;
+    watched = willSay && root->KnownSubtreeDepth().has_value();  // throws for one that is known as too deep
   });
   return watched;
 }

@@ -29,7 +29,7 @@ class TrackLayout {
     friend bool operator==(const Basis&, const Basis&) = default;
   };
 
-  float TopOfTrack(std::size_t TrackA);
+  float TopOfTrack(const CMURTimeline& TimelineA, std::size_t TrackA);
   bool WatchUpwards(const Ref<IMURTimelineObject>& ObjectA) const;
 
   const RenderState& mState;
