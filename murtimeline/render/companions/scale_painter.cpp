@@ -45,8 +45,11 @@ void ScalePainter::Paint(const std::vector<const TimeScaleMarker*>& MarkersA) {
   if (mSettings.showMarkers && mContext.IsShown())
     mFlags =
         LayOutFlags(mSurface, MarkersA, mSettings, {0, mContext.top, mWidth, mContext.height}, mFlagStyle);
-  if (const auto range = RangeOf(mSettings, mTexts.OriginSeconds(), mWidth)) DrawTicks(*range);
+  const auto range = RangeOf(mSettings, mTexts.OriginSeconds(), mWidth);
+  const TickStep* major = range ? MajorStep(*range) : nullptr;
+  if (major) DrawTicks(*range, *major);
   DrawFlags();
+  if (major) DrawTexts(*range, *major);
   if (mSettings.showCursor) DrawCursor();
   if (mSettings.borderStyle != 0)
     mSurface.FrameRectangle({0, 0, mWidth, mHeight}, Mixed(mBack, mFore, 0.5F), 1);
@@ -65,14 +68,22 @@ void ScalePainter::LayOutBands() {
   if (rows == 2) mContext = {outer, height};
 }
 
-void ScalePainter::DrawTicks(const ScaleRange& RangeA) {
-  const TickStep* major = MajorStep(RangeA);
-  if (!major) return;
-  if (const TickStep* minor = MinorStep(RangeA, *major))
-    DrawTickRow(RangeA, *minor, kMinorLength, Mixed(mBack, mFore, 0.35F));
-  DrawTickRow(RangeA, *major, kMajorLength, Mixed(mBack, mFore, 0.6F));
-  if (mLabels.IsShown()) DrawLabels(RangeA, *major);
-  if (mContext.IsShown()) DrawContext(RangeA, *major);
+void ScalePainter::DrawTicks(const ScaleRange& RangeA, const TickStep& MajorA) {
+  if (const TickStep* minor = MinorStep(RangeA, MajorA))
+    DrawLines(RangeA, *minor, TickBand(kMinorLength), Mixed(mBack, mFore, 0.35F));
+  DrawLines(RangeA, MajorA, TickBand(kMajorLength), Mixed(mBack, mFore, 0.6F));
+  if (const TickStep* context = mTexts.ContextStep(MajorA); context && mContext.IsShown())
+    DrawLines(RangeA, *context, mContext, Mixed(mBack, mFore, 0.25F));
+}
+
+ScalePainter::Band ScalePainter::TickBand(float LengthA) const {
+  return {mTicksBelow ? mHeight - LengthA : 0, LengthA};
+}
+
+void ScalePainter::DrawTexts(const ScaleRange& RangeA, const TickStep& MajorA) {
+  if (mLabels.IsShown()) DrawLabels(RangeA, MajorA);
+  if (const TickStep* context = mTexts.ContextStep(MajorA); context && mContext.IsShown())
+    DrawContext(RangeA, *context);
 }
 
 // The smallest step whose labels have room and differ from each other.
@@ -104,11 +115,12 @@ float ScalePainter::WidestLabel(const ScaleRange& RangeA, const TickStep& StepA)
   return widest;
 }
 
-void ScalePainter::DrawTickRow(const ScaleRange& RangeA, const TickStep& StepA, float LengthA, Rgba ColorA) {
-  const float top = mTicksBelow ? mHeight - LengthA : 0;
+// A line at each tick of a step.
+void ScalePainter::DrawLines(const ScaleRange& RangeA, const TickStep& StepA, const Band& BandA,
+                             Rgba ColorA) {
   for (std::int64_t number = StepA.NumberAt(RangeA.first); StepA.TimeOf(number) <= RangeA.last; ++number)
     if (StepA.TimeOf(number) >= RangeA.first)
-      mSurface.FillRectangle({Aligned(RangeA.XOf(StepA.TimeOf(number))), top, 1, LengthA}, ColorA);
+      mSurface.FillRectangle({Aligned(RangeA.XOf(StepA.TimeOf(number))), BandA.top, 1, BandA.height}, ColorA);
 }
 
 void ScalePainter::DrawLabels(const ScaleRange& RangeA, const TickStep& StepA) {
@@ -118,38 +130,40 @@ void ScalePainter::DrawLabels(const ScaleRange& RangeA, const TickStep& StepA) {
     if (time < RangeA.first) continue;
     const MeasuredText text = MeasureForRoom(mSurface, mTexts.Label(StepA, time), mLabelStyle, mWidth);
     const float width = text.extent.width;
-    // About its tick, but whole: at the ends of the scale a label gives way inwards.
-    const float most = mWidth - kTextInset / 2 - width;
-    const float left = std::min(std::max(RangeA.XOf(time) - width / 2, kTextInset / 2), most);
-    if (left < taken || text.text.empty()) continue;
+    // About its tick, but whole: at the ends of the scale a label gives way inwards, or goes.
+    const float middle = RangeA.XOf(time) - width / 2;
+    const float left =
+        std::clamp(middle, kTextInset / 2, std::max(kTextInset / 2, mWidth - kTextInset / 2 - width));
+    const float next = RangeA.XOf(StepA.TimeOf(number + 1)) - width / 2;
+    const bool coversNext = left > middle && left + width + kTextInset > next;
+    if (left < taken || coversNext || text.text.empty()) continue;
     DrawText(left, mLabels, text, mLabelStyle);
     taken = left + width + kTextInset;
   }
 }
 
-void ScalePainter::DrawContext(const ScaleRange& RangeA, const TickStep& StepA) {
-  const TickStep* context = mTexts.ContextStep(StepA);
-  if (!context) return;
-  for (std::int64_t number = context->NumberAt(RangeA.first); context->TimeOf(number) <= RangeA.last;
-       ++number) {
-    const std::int64_t time = context->TimeOf(number);
-    const float left = RangeA.XOf(time);
-    if (time >= RangeA.first)
-      mSurface.FillRectangle({Aligned(left), mContext.top, 1, mContext.height}, Mixed(mBack, mFore, 0.25F));
-    DrawContextSpan(*context, time, std::max(left, 0.0F),
-                    std::min(RangeA.XOf(context->TimeOf(number + 1)), mWidth));
+void ScalePainter::DrawContext(const ScaleRange& RangeA, const TickStep& ContextA) {
+  std::int64_t number = ContextA.NumberAt(RangeA.first);
+  for (std::int64_t time = ContextA.TimeOf(number); time <= RangeA.last; time = ContextA.TimeOf(++number)) {
+    const float end = RangeA.XOf(ContextA.TimeOf(number + 1));
+    DrawContextSpan(ContextA, time, std::max(RangeA.XOf(time), 0.0F), std::min(end, mWidth));
   }
 }
 
+// At the beginning of the span if possible, and if need be in short, rather than behind the flags there.
 void ScalePainter::DrawContextSpan(const TickStep& StepA, std::int64_t TimeA, float LeftA, float RightA) {
-  for (const bool isBrief : {false, true}) {
-    const MeasuredText text =
-        MeasureForRoom(mSurface, mTexts.Context(StepA, TimeA, isBrief), mContextStyle, mWidth);
-    const float left = PastFlags(LeftA + kTextInset, text.extent.width);
-    if (text.text.empty() || left + text.extent.width + kTextInset > RightA) continue;
-    DrawText(left, mContext, text, mContextStyle);
-    return;
-  }
+  const std::array<MeasuredText, 2> texts = {
+      MeasureForRoom(mSurface, mTexts.Context(StepA, TimeA, false), mContextStyle, mWidth),
+      MeasureForRoom(mSurface, mTexts.Context(StepA, TimeA, true), mContextStyle, mWidth)};
+  const float start = LeftA + kTextInset;
+  for (const bool mayShift : {false, true})
+    for (const MeasuredText& text : texts) {
+      const float left = PastFlags(start, text.extent.width);
+      const bool hasRoom = left + text.extent.width + kTextInset <= RightA;
+      if (text.text.empty() || !hasRoom || (left > start && !mayShift)) continue;
+      DrawText(left, mContext, text, mContextStyle);
+      return;
+    }
 }
 
 // The first place at or after `LeftA` where that width is free of flags and poles.

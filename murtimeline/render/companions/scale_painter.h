@@ -31,13 +31,15 @@ class MUR_API ScalePainter {
   };
 
   void LayOutBands();
-  void DrawTicks(const ScaleRange& RangeA);
+  void DrawTicks(const ScaleRange& RangeA, const TickStep& MajorA);
+  void DrawTexts(const ScaleRange& RangeA, const TickStep& MajorA);
+  Band TickBand(float LengthA) const;
   const TickStep* MajorStep(const ScaleRange& RangeA) const;
   const TickStep* MinorStep(const ScaleRange& RangeA, const TickStep& MajorA) const;
   float WidestLabel(const ScaleRange& RangeA, const TickStep& StepA) const;
-  void DrawTickRow(const ScaleRange& RangeA, const TickStep& StepA, float LengthA, Rgba ColorA);
+  void DrawLines(const ScaleRange& RangeA, const TickStep& StepA, const Band& BandA, Rgba ColorA);
   void DrawLabels(const ScaleRange& RangeA, const TickStep& StepA);
-  void DrawContext(const ScaleRange& RangeA, const TickStep& StepA);
+  void DrawContext(const ScaleRange& RangeA, const TickStep& ContextA);
   void DrawContextSpan(const TickStep& StepA, std::int64_t TimeA, float LeftA, float RightA);
   float PastFlags(float LeftA, float WidthA) const;
   void DrawFlags();
