@@ -1,0 +1,14 @@
+#include <QApplication>
+
+#include "growth_reporter.h"
+
+// Sizes and repetitions can be narrowed with the options of Google Benchmark, for example
+// --benchmark_filter=repaint.
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  mur::bench::GrowthReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  return 0;
+}
