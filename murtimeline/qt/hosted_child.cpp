@@ -1,0 +1,69 @@
+#include <algorithm>
+#include <cmath>
+
+#include <murtimeline/qt/hosted_child.h>
+#include <murtimeline/qt/palette_colors.h>
+
+namespace mur::qt {
+namespace {
+
+// A coordinate that a widget can have, however large the number is.
+int Whole(double PixelsA) {
+  constexpr double kFarthest = QWIDGETSIZE_MAX;
+  return std::isnan(PixelsA) ? 0 : static_cast<int>(std::clamp(PixelsA, -kFarthest, kFarthest));
+}
+
+int NearestPixel(double TwipsA) {
+  return Whole(std::round(TwipsA / static_cast<double>(ChildHost::kTwipsPerPixel)));
+}
+
+}  // namespace
+
+void HostedChild::SetHeight(float HeightA) {
+  Place(mLeft, mTop, mWidth, HeightA);
+}
+
+void HostedChild::Move(float LeftA, std::optional<float> TopA, std::optional<float> WidthA,
+                       std::optional<float> HeightA) {
+  Place(LeftA, TopA.value_or(mTop), WidthA.value_or(mWidth), HeightA.value_or(mHeight));
+}
+
+// What is told at the end may end this object, too.
+void HostedChild::Place(float LeftA, float TopA, float WidthA, float HeightA) {
+  const bool resized = WidthA != mWidth || HeightA != mHeight;
+  mLeft = LeftA;
+  mTop = TopA;
+  mWidth = WidthA;
+  mHeight = HeightA;
+  if (mWidget && mMovesWidget) mWidget->setGeometry(PixelPlace());
+  if (resized && mResized) mResized();
+}
+
+QRect HostedChild::PixelPlace() const {
+  const auto edge = [](float start, float extent) {
+    return NearestPixel(static_cast<double>(start) + static_cast<double>(extent));
+  };
+  const int left = edge(mLeft, 0), top = edge(mTop, 0);
+  return {left, top, std::max(edge(mLeft, mWidth) - left, 0), std::max(edge(mTop, mHeight) - top, 0)};
+}
+
+// Rounded outwards to the grid of logical pixels, and one further where that is not the grid of the device.
+void HostedChild::Invalidate(const RectF& RectA) {
+  if (!mWidget || RectA.IsEmpty()) return;
+  const double ratio = mWidget->devicePixelRatioF();
+  const double margin = ratio == std::floor(ratio) ? 0 : 1;
+  const QPoint first(Whole(std::floor(RectA.left) - margin), Whole(std::floor(RectA.top) - margin));
+  const QPoint last(Whole(std::ceil(RectA.Right()) + margin) - 1,
+                    Whole(std::ceil(RectA.Bottom()) + margin) - 1);
+  mWidget->update(QRect(first, last) & mWidget->rect());
+}
+
+void HostedChild::InvalidateAll() {
+  if (mWidget) mWidget->update();
+}
+
+Rgba HostedChild::SystemColor(int IndexA) const {
+  return SystemColorOf(mWidget ? mWidget->palette() : QPalette(), IndexA);
+}
+
+}  // namespace mur::qt

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+
+#include <murtimeline/automation/export.h>
+#include <murtimeline/automation/object.h>
+#include <murtimeline/render/port/child_host.h>
+
+namespace mur::qt {
+
+/// One child control on a widget. Extents are kept as they were given, in twips; only the widget's own
+/// geometry is rounded, edge by edge, so that neighbours touch and nothing drifts. It belongs to its
+/// companion as that one's face, so it may outlive the widget.
+class MUR_API HostedChild final : public ChildHost, public HostFace {
+ public:
+  explicit HostedChild(QWidget& WidgetA) : mWidget(&WidgetA) {}
+
+  float Left() const override { return mLeft; }
+  float Top() const override { return mTop; }
+  float Width() const override { return mWidth; }
+  float Height() const override { return mHeight; }
+  void SetHeight(float HeightA) override;
+  void Move(float LeftA, std::optional<float> TopA = {}, std::optional<float> WidthA = {},
+            std::optional<float> HeightA = {}) override;
+
+  String ToolTipText() const override { return mToolTipText; }
+  void SetToolTipText(StringView TextA) override { mToolTipText = TextA; }
+  void Invalidate(const RectF& RectA) override;
+  void InvalidateAll() override;
+  Rgba SystemColor(int IndexA) const override;
+
+  /// The place in whole logical pixels.
+  QRect PixelPlace() const;
+  /// While off, the widget stays where it is, whatever the extents become.
+  void SetMovesWidget(bool MovesA) { mMovesWidget = MovesA; }
+  /// What is to be told that the extent became another one, at once.
+  void SetResized(std::function<void()> ResizedA) { mResized = std::move(ResizedA); }
+
+ private:
+  void Place(float LeftA, float TopA, float WidthA, float HeightA);
+
+  QPointer<QWidget> mWidget;
+  float mLeft = 0, mTop = 0, mWidth = 0, mHeight = 0;
+  String mToolTipText;
+  std::function<void()> mResized;
+  bool mMovesWidget = true;
+};
+
+}  // namespace mur::qt

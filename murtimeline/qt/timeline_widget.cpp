@@ -1,0 +1,207 @@
+#include <QEvent>
+#include <QPainter>
+#include <QPointer>
+
+#include <murtimeline/automation/guard.h>
+#include <murtimeline/qt/conversions.h>
+#include <murtimeline/qt/event_guard.h>
+#include <murtimeline/qt/timeline_widget_parts.h>
+
+namespace mur::qt {
+namespace {
+
+constexpr QSize kUsualSize(640, 240);
+constexpr QSize kLeastSize(160, 80);  // the scale and a bar
+
+// A companion on `HostA`, which it owns from now on.
+template <class Companion>
+Ref<Companion> MakeOn(HostedChild& HostA) {
+  Ref<Companion> companion = Make<Companion>(HostA);
+  companion->SetFace(&HostA);
+  return companion;
+}
+
+Ref<MURTimelineRender> MakeControl(WidgetHost& HostA, Companions CompanionsA) {
+  Ref<MURTimelineRender> control = Make<MURTimelineRender>(HostA, std::move(CompanionsA));
+  control->SetFace(&HostA);
+  return control;
+}
+
+Companions CompanionsOf(const Ref<MURGraphicCanvas>& CanvasA, const Ref<MURTimelineScroll>& ScrollerA) {
+  Companions companions;
+  companions.canvas = CanvasA;
+  companions.scroller = ScrollerA;
+  return companions;
+}
+
+template <class Companion>
+void PaintAt(const QRect& PlaceA, Companion& CompanionA, QPainter& PainterA, TextMeasures& MeasuresA) {
+  PainterA.save();
+  PainterA.translate(PlaceA.topLeft());
+  PainterA.setClipRect(QRect(QPoint(), PlaceA.size()), Qt::IntersectClip);
+  {
+    PainterSurface surface(PainterA, MeasuresA);
+    CompanionA.Paint(surface,
+                     {0, 0, static_cast<float>(PlaceA.width()), static_cast<float>(PlaceA.height())});
+  }
+  PainterA.restore();
+}
+
+}  // namespace
+
+TimelineWidget::Parts::Parts(QWidget& OwnerA)
+    : measures(OwnerA.font()),
+      scaleWidget(std::make_unique<ChildWidget>(measures, &OwnerA)),
+      canvasWidget(std::make_unique<ChildWidget>(measures, &OwnerA)),
+      scaleHost(*new HostedChild(*scaleWidget)),
+      canvasHost(*new HostedChild(*canvasWidget)),
+      scroller(MakeOn<MURTimelineScroll>(scaleHost)),
+      canvas(MakeOn<MURGraphicCanvas>(canvasHost)),
+      host(*new WidgetHost(scaleHost, canvasHost)),
+      control(MakeControl(host, CompanionsOf(canvas, scroller))),
+      navigation(control, canvas, canvasHost, *scaleWidget, *canvasWidget) {
+  constexpr float kScaleDesignHeight = 600;  // twips
+  scaleHost.SetHeight(kScaleDesignHeight);
+  canvasHost.SetResized([canvas = canvas.Get()] { canvas->Resized(); });
+  const auto paint = [](auto& companion) {
+    return [&companion](Surface& surface, const RectF& dirty) { companion.Paint(surface, dirty); };
+  };
+  scaleWidget->SetPaint(paint(*scroller));
+  canvasWidget->SetPaint(paint(*canvas));
+  scaleWidget->SetToolTip([this](PointF) { return scaleHost.ToolTipText(); });
+  canvasWidget->SetToolTip([this](PointF point) { return canvas->ToolTipAt(point); });
+}
+
+void TimelineWidget::Parts::LayOut(QSizeF SizeA) {
+  const Ref<MURTimelineRender> keep = control;
+  host.SetPixelSize(SizeA);
+  ResumeNext([&] { keep->Resize(); });
+}
+
+TimelineWidget::TimelineWidget(QWidget* parent) : QWidget(parent), mParts(std::make_unique<Parts>(*this)) {
+  forwardEvents();
+  layOut();
+}
+
+TimelineWidget::~TimelineWidget() = default;
+
+void TimelineWidget::forwardEvents() {
+  const auto listen = [this](auto& event, auto handler) {
+    mParts->connections.push_back(event.Connect(handler));
+  };
+  const auto forwardPointer = [&](MURTimelineRender::PointerEvent& event, auto signal) {
+    listen(event, [this, signal](qint16& button, qint16& shift, float& x, float& y) {
+      Q_EMIT(this->*signal)(button, shift, x, y);
+    });
+  };
+  const auto forwardMarker = [&](Event<const Variant&>& event, auto signal) {
+    listen(event, [this, signal](const Variant& key) { Q_EMIT(this->*signal)(ToQVariant(key)); });
+  };
+  const auto forwardMarkerPointer = [&](MURTimelineRender::MarkerPointerEvent& event, auto signal) {
+    listen(event, [this, signal](const Variant& key, qint16 button, qint16 shift) {
+      Q_EMIT(this->*signal)(ToQVariant(key), button, shift);
+    });
+  };
+  MURTimelineRender& control = *mParts->control;
+  listen(control.CursorTimeChange, [this](Date time) { Q_EMIT cursorTimeChange(ToQDateTime(time)); });
+  listen(control.TimeScaleClick, [this] { Q_EMIT timeScaleClick(); });
+  listen(control.TimeScaleDblClick, [this] { Q_EMIT timeScaleDblClick(); });
+  forwardPointer(control.TimeScaleMouseDown, &TimelineWidget::timeScaleMouseDown);
+  forwardPointer(control.TimeScaleMouseMove, &TimelineWidget::timeScaleMouseMove);
+  forwardPointer(control.TimeScaleMouseUp, &TimelineWidget::timeScaleMouseUp);
+  forwardMarker(control.MarkerClick, &TimelineWidget::markerClick);
+  forwardMarker(control.MarkerDblClick, &TimelineWidget::markerDblClick);
+  forwardMarkerPointer(control.MarkerMouseDown, &TimelineWidget::markerMouseDown);
+  forwardMarkerPointer(control.MarkerMouseMove, &TimelineWidget::markerMouseMove);
+  forwardMarkerPointer(control.MarkerMouseUp, &TimelineWidget::markerMouseUp);
+  listen(mParts->scroller->VisibleRangeChanged, [this] {
+    if (!mParts->navigation.IsMoving()) Q_EMIT visibleRangeChanged();
+  });
+  connect(&mParts->navigation, &Navigation::moved, this, &TimelineWidget::visibleRangeChanged);
+}
+
+// Qt tells a hidden widget of its size only when it is shown; this is asked before anything that depends on
+// it.
+void TimelineWidget::layOut() const {
+  if (mParts->laidOut == size()) return;
+  mParts->laidOut = size();
+  mParts->LayOut(size());
+}
+
+Ref<MURTimelineRender> TimelineWidget::control() const {
+  const Ref<MURTimelineRender> control = mParts->control;
+  layOut();
+  return control;
+}
+
+Ref<CMURTimeline> TimelineWidget::timeline() const {
+  return control()->Timeline();
+}
+
+void TimelineWidget::setTimeline(const Ref<CMURTimeline>& timeline) {
+  control()->SetTimeline(timeline);
+}
+
+void TimelineWidget::showMembers() {
+  control()->ShowMembers();
+}
+
+QImage TimelineWidget::renderToImage(QSize size, qreal devicePixelRatio) {
+  QImage image((QSizeF(size) * devicePixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(devicePixelRatio);
+  image.fill(palette().color(QPalette::Window));
+  QPainter painter(&image);
+  renderToPainter(painter, size);
+  return image;
+}
+
+void TimelineWidget::renderToPainter(QPainter& painter, QSizeF size) {
+  const QPointer<TimelineWidget> self(this);
+  const auto layOutAs = [this](QSizeF other, bool movesWidgets) {
+    mParts->scaleHost.SetMovesWidget(movesWidgets);
+    mParts->canvasHost.SetMovesWidget(movesWidgets);
+    mParts->LayOut(other);
+  };
+  layOut();
+  if (self && size != QSizeF(this->size())) layOutAs(size, false);
+  if (!self) return;
+  PaintAt(mParts->scaleHost.PixelPlace(), *mParts->scroller, painter, mParts->measures);
+  PaintAt(mParts->canvasHost.PixelPlace(), *mParts->canvas, painter, mParts->measures);
+  if (size != QSizeF(this->size())) layOutAs(QSizeF(this->size()), true);
+}
+
+QSize TimelineWidget::sizeHint() const {
+  return kUsualSize;
+}
+
+QSize TimelineWidget::minimumSizeHint() const {
+  return kLeastSize;
+}
+
+bool TimelineWidget::event(QEvent* event) {
+  bool handled = true;
+  GuardEvent([&] { handled = QWidget::event(event); });
+  return handled;
+}
+
+void TimelineWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  layOut();
+}
+
+void TimelineWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::PaletteChange:
+      mParts->measures.SetFont(font());
+      mParts->scaleWidget->update();
+      mParts->canvasWidget->update();
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace mur::qt

@@ -1,0 +1,45 @@
+#include <murtimeline/qt/conversions.h>
+#include <murtimeline/qt/timeline_widget_parts.h>
+
+namespace mur::qt {
+
+bool TimelineWidget::navigationEnabled() const {
+  return mParts->navigation.IsEnabled();
+}
+
+void TimelineWidget::setNavigationEnabled(bool enabled) {
+  mParts->navigation.SetEnabled(enabled);
+}
+
+void TimelineWidget::zoomAt(double factor, double x) {
+  layOut();
+  mParts->navigation.ZoomAt(factor, x);
+}
+
+void TimelineWidget::pan(double seconds) {
+  mParts->navigation.Pan(seconds);
+}
+
+bool TimelineWidget::fit() {
+  return mParts->navigation.Fit();
+}
+
+Date TimelineWidget::timeAt(double x) const {
+  layOut();
+  return mParts->navigation.TimeAt(x);
+}
+
+double TimelineWidget::xOf(Date time) const {
+  layOut();
+  return mParts->navigation.XOf(time);
+}
+
+QDateTime TimelineWidget::dateTimeAt(double x) const {
+  return ToQDateTime(timeAt(x));
+}
+
+double TimelineWidget::xOfDateTime(const QDateTime& time) const {
+  return xOf(ToDate(time));
+}
+
+}  // namespace mur::qt

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <murtimeline/qt/child_widget.h>
+#include <murtimeline/qt/navigation.h>
+#include <murtimeline/qt/timeline_widget.h>
+#include <murtimeline/qt/widget_host.h>
+#include <murtimeline/render/companions/scroll_control.h>
+
+namespace mur::qt {
+
+/// What a TimelineWidget consists of. The hosts of the companions and of the control belong to those.
+struct TimelineWidget::Parts {
+  explicit Parts(QWidget& OwnerA);
+
+  /// Lays the control out for a size in logical pixels. Listeners may end the widget meanwhile.
+  void LayOut(QSizeF SizeA);
+
+  TextMeasures measures;
+  const std::unique_ptr<ChildWidget> scaleWidget;
+  const std::unique_ptr<ChildWidget> canvasWidget;
+  HostedChild& scaleHost;
+  HostedChild& canvasHost;
+  Ref<MURTimelineScroll> scroller;
+  Ref<MURGraphicCanvas> canvas;
+  WidgetHost& host;
+  Ref<MURTimelineRender> control;
+  Navigation navigation;
+  QSize laidOut;
+  std::vector<Connection> connections;
+};
+
+}  // namespace mur::qt

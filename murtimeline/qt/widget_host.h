@@ -1,0 +1,31 @@
+#pragma once
+
+#include <murtimeline/qt/hosted_child.h>
+#include <murtimeline/render/port/control_host.h>
+
+namespace mur::qt {
+
+/// The host of a control on a widget. It belongs to the control as its face, so both last to the end of
+/// whatever the control is doing, even when a listener deletes the widget.
+class WidgetHost final : public ControlHost, public HostFace {
+ public:
+  WidgetHost(HostedChild& ScrollerA, HostedChild& CanvasA) : mScroller(ScrollerA), mCanvas(CanvasA) {}
+
+  float ScaleWidth() const override { return mWidth; }
+  float ScaleHeight() const override { return mHeight; }
+  HostedChild& ScrollerHost() override { return mScroller; }
+  HostedChild& CanvasHost() override { return mCanvas; }
+
+  /// Logical pixels.
+  void SetPixelSize(QSizeF SizeA) {
+    mWidth = static_cast<float>(SizeA.width()) * ChildHost::kTwipsPerPixel;
+    mHeight = static_cast<float>(SizeA.height()) * ChildHost::kTwipsPerPixel;
+  }
+
+ private:
+  HostedChild& mScroller;
+  HostedChild& mCanvas;
+  float mWidth = 0, mHeight = 0;
+};
+
+}  // namespace mur::qt
