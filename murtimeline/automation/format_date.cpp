@@ -9,9 +9,15 @@ namespace {
 
 constexpr std::chrono::sys_days kDayZero = std::chrono::year(1899) / 12 / 30;
 
-void AppendNumber(String& TextA, int NumberA, int MinimalDigitsA) {
-  if (NumberA >= 10 || MinimalDigitsA > 1) AppendNumber(TextA, NumberA / 10, MinimalDigitsA - 1);
-  TextA += static_cast<char16_t>(u'0' + NumberA % 10);
+struct PaddedNumber {
+  int number;
+  int minimalDigits;
+};
+
+void AppendNumber(String& TextA, PaddedNumber NumberA) {
+  if (NumberA.number >= 10 || NumberA.minimalDigits > 1)
+    AppendNumber(TextA, {NumberA.number / 10, NumberA.minimalDigits - 1});
+  TextA += static_cast<char16_t>(u'0' + NumberA.number % 10);
 }
 
 // The week that holds 1 January is the first; weeks start on Sunday.
@@ -23,6 +29,44 @@ int WeekOfYear(const Moment& MomentA) {
 
 int ShownHour(const Moment& MomentA, bool TwelveHoursA) {
   return TwelveHoursA ? (MomentA.hour + 11) % 12 + 1 : MomentA.hour;
+}
+
+// What a numeric part shows.
+PaddedNumber NumberIn(const Moment& MomentA, DatePart PartA, bool TwelveHoursA) {
+  switch (PartA) {
+    case DatePart::Day:
+      return {MomentA.day, 1};
+    case DatePart::DayTwoDigits:
+      return {MomentA.day, 2};
+    case DatePart::Weekday:
+      return {MomentA.weekday + 1, 1};
+    case DatePart::Week:
+      return {WeekOfYear(MomentA), 1};
+    case DatePart::Month:
+      return {MomentA.month, 1};
+    case DatePart::MonthTwoDigits:
+      return {MomentA.month, 2};
+    case DatePart::Quarter:
+      return {(MomentA.month + 2) / 3, 1};
+    case DatePart::DayOfYear:
+      return {MomentA.dayOfYear, 1};
+    case DatePart::YearTwoDigits:
+      return {MomentA.year % 100, 2};
+    case DatePart::Year:
+      return {MomentA.year, 4};
+    case DatePart::Hour:
+      return {ShownHour(MomentA, TwelveHoursA), 1};
+    case DatePart::HourTwoDigits:
+      return {ShownHour(MomentA, TwelveHoursA), 2};
+    case DatePart::Minute:
+      return {MomentA.minute, 1};
+    case DatePart::MinuteTwoDigits:
+      return {MomentA.minute, 2};
+    case DatePart::Second:
+      return {MomentA.second, 1};
+    default:
+      return {MomentA.second, 2};
+  }
 }
 
 // "AM/PM" and "A/P" hold their own two texts, before and behind the slash.
@@ -114,29 +158,11 @@ void DateWriter::AppendPart(String& TextA, const Moment& MomentA, const DatePatt
     case DatePart::LongTime:
       Append(TextA, MomentA, mLongTime);
       break;
-    case DatePart::Day:
-      AppendNumber(TextA, MomentA.day, 1);
-      break;
-    case DatePart::DayTwoDigits:
-      AppendNumber(TextA, MomentA.day, 2);
-      break;
     case DatePart::ShortDayName:
       TextA += mRegion.shortDayNames[weekdayIndex];
       break;
     case DatePart::DayName:
       TextA += mRegion.dayNames[weekdayIndex];
-      break;
-    case DatePart::Weekday:
-      AppendNumber(TextA, MomentA.weekday + 1, 1);
-      break;
-    case DatePart::Week:
-      AppendNumber(TextA, WeekOfYear(MomentA), 1);
-      break;
-    case DatePart::Month:
-      AppendNumber(TextA, MomentA.month, 1);
-      break;
-    case DatePart::MonthTwoDigits:
-      AppendNumber(TextA, MomentA.month, 2);
       break;
     case DatePart::ShortMonthName:
       TextA += mRegion.shortMonthNames[monthIndex];
@@ -144,42 +170,14 @@ void DateWriter::AppendPart(String& TextA, const Moment& MomentA, const DatePatt
     case DatePart::MonthName:
       TextA += mRegion.monthNames[monthIndex];
       break;
-    case DatePart::Quarter:
-      AppendNumber(TextA, (MomentA.month + 2) / 3, 1);
-      break;
-    case DatePart::DayOfYear:
-      AppendNumber(TextA, MomentA.dayOfYear, 1);
-      break;
-    case DatePart::YearTwoDigits:
-      AppendNumber(TextA, MomentA.year % 100, 2);
-      break;
-    case DatePart::Year:
-      AppendNumber(TextA, MomentA.year, 4);
-      break;
-    case DatePart::Hour:
-      AppendNumber(TextA, ShownHour(MomentA, PatternA.twelveHours), 1);
-      break;
-    case DatePart::HourTwoDigits:
-      AppendNumber(TextA, ShownHour(MomentA, PatternA.twelveHours), 2);
-      break;
-    case DatePart::Minute:
-      AppendNumber(TextA, MomentA.minute, 1);
-      break;
-    case DatePart::MinuteTwoDigits:
-      AppendNumber(TextA, MomentA.minute, 2);
-      break;
-    case DatePart::Second:
-      AppendNumber(TextA, MomentA.second, 1);
-      break;
-    case DatePart::SecondTwoDigits:
-      AppendNumber(TextA, MomentA.second, 2);
-      break;
     case DatePart::HalfDay:
       TextA += HalfDayText(span, afternoon);
       break;
     case DatePart::RegionalHalfDay:
       TextA += afternoon ? mRegion.pmText : mRegion.amText;
       break;
+    default:
+      AppendNumber(TextA, NumberIn(MomentA, TokenA.part, PatternA.twelveHours));
   }
 }
 

@@ -92,7 +92,8 @@ void Check(const Vector& vector) {
 TEST(FormatVectors, AllHold) {
   std::ifstream file(MUR_FORMAT_VECTORS);
   ASSERT_TRUE(file) << MUR_FORMAT_VECTORS;
-  int lineNumber = 0, checked = 0;
+  int lineNumber = 0;
+  int checked = 0;
   for (std::string line; std::getline(file, line);) {
     ++lineNumber;
     if (line.empty() || line.front() == '#') continue;
