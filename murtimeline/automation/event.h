@@ -9,6 +9,7 @@
 
 #include <murtimeline/automation/error.h>
 #include <murtimeline/automation/export.h>
+#include <murtimeline/automation/stack.h>
 
 namespace mur {
 
@@ -41,7 +42,7 @@ class MUR_API Connection {
 /// It fires on a snapshot: a listener may disconnect itself or others (who are then not called any more),
 /// connect new ones (who hear the next event) or destroy the event. A listener that throws does not keep the
 /// others from hearing; the first error is thrown on when all were called. Out of stack space is thrown on at
-/// once.
+/// once, and so ends listeners that raise the event again without end.
 template <class... Arguments>
 class MUR_API Event {
  public:
@@ -66,6 +67,7 @@ class MUR_API Event {
   bool HasListeners() const noexcept { return mListeners->current != nullptr; }
 
   void Raise(Arguments... ArgumentsA) const {
+    RequireStackSpace();
     const auto snapshot = mListeners->current;
     if (!snapshot) return;
     std::exception_ptr firstError;

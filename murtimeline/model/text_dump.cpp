@@ -4,6 +4,7 @@
 
 #include <murtimeline/automation/error.h>
 #include <murtimeline/automation/regional.h>
+#include <murtimeline/automation/stack.h>
 #include <murtimeline/model/text_dump.h>
 
 namespace mur {
@@ -18,6 +19,25 @@ struct Level {
   std::int16_t count;
   std::int16_t next = 1;
 };
+
+// Counts the dumps that host objects start within a dump: a ring through one of them would never end.
+class NestedDump {
+ public:
+  NestedDump() {
+    RequireStackSpace();
+    if (tDepth >= kDeepest) throw AutomationError(ErrorCode::OutOfStackSpace);
+    ++tDepth;
+  }
+  ~NestedDump() { --tDepth; }
+  NestedDump(const NestedDump&) = delete;
+  NestedDump& operator=(const NestedDump&) = delete;
+
+ private:
+  static constexpr int kDeepest = 256;
+  static thread_local int tDepth;
+};
+
+thread_local int NestedDump::tDepth = 0;
 
 class TreeDump {
  public:
@@ -76,6 +96,7 @@ class TreeDump {
 }  // namespace
 
 void AppendDump(String& TextA, const IMURTimelineObject& ObjectA, String IndentA) {
+  const NestedDump nested;
   TreeDump(TextA, std::move(IndentA)).Append(ObjectA);
 }
 

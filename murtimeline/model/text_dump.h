@@ -9,7 +9,7 @@ namespace mur {
 inline constexpr int kDeepestDump = 4096;
 
 /// The dump of an object and of all below it, without recursion. Throws OutOfStackSpace for objects nested
-/// deeper than kDeepestDump and for an object that contains itself.
+/// deeper than kDeepestDump and for an object that contains itself, through objects of a host's own too.
 MUR_API void AppendDump(String& TextA, const IMURTimelineObject& ObjectA, String IndentA);
 
 /// One line: indent, label, value, CR LF.

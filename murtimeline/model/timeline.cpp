@@ -111,6 +111,7 @@ String CMURTimeline::GenerateKey() const {
 
 Ref<IMURTimelineObject> CMURTimeline::Add(MURTimelineObjectType ObjectTypeA, const Variant& sKey,
                                           bool IsTrackA) {
+  const Ref<CMURTimeline> keep(this);
   Ref<IMURTimelineObject> member = Create(ObjectTypeA);
   if (!member || !Insert(member, sKey)) return {};
   if (IsTrackA) AddTrackKey(member->Key());
@@ -179,16 +180,19 @@ void CMURTimeline::MoveShapeRevisionIfTrack(StringView KeyA) const {
 }
 
 void CMURTimeline::EnumerateProperties() {
+  // Ends with the routine, also when that runs out of stack space.
+  struct Enumerating {
+    explicit Enumerating(bool& FlagA) : flag(FlagA) { flag = true; }
+    ~Enumerating() { flag = false; }
+    bool& flag;
+  };
   const Ref<CMURTimeline> keep(this);
-  ResumeNext([&] {
-    mEnumeratingProperties = true;
-    SetTag(Tag());
-    SetAutoID(AutoID());
-    SetDuration(Duration());
-    SetWorldTimeT0(WorldTimeT0());
-    RaisePropertyChanged(u"NTrackKeys");
-  });
-  mEnumeratingProperties = false;
+  const Enumerating enumerating(mEnumeratingProperties);
+  SetTag(Tag());
+  SetAutoID(AutoID());
+  SetDuration(Duration());
+  SetWorldTimeT0(WorldTimeT0());
+  RaisePropertyChanged(u"NTrackKeys");
 }
 
 void CMURTimeline::RaisePropertyChanged(StringView PropertyNameA) {

@@ -1,5 +1,6 @@
 #include <murtimeline/automation/guard.h>
 #include <murtimeline/automation/narrow.h>
+#include <murtimeline/automation/stack.h>
 #include <murtimeline/model/text_dump.h>
 #include <murtimeline/model/timeline_group.h>
 
@@ -31,6 +32,7 @@ void CMURTimelineGroup::Add(const Ref<IMURTimelineObject>& ChildA, StringView Ke
   const Ref<CMURTimelineGroup> keep(this);
   const Ref<IMURTimelineObject> child = ChildA;
   ResumeNext([&] {
+    RequireStackSpace();
     if (!child || !mChildren || !mChildren->Add(child, KeyA)) return;
     mDepth.AddChild(*child);
     child->SetKey(KeyA);
@@ -43,6 +45,7 @@ Ref<IMURTimelineObject> CMURTimelineGroup::Remove(const Variant& KeyIndexA) {
   const Ref<CMURTimelineGroup> keep(this);
   Ref<IMURTimelineObject> result;
   ResumeNext([&] {
+    RequireStackSpace();
     const Ref<IMURTimelineObject> child = TakeOut(Selector(KeyIndexA));
     const Ref<IMURTLObjectEventSink> sink = EventSink();
     if (!child || !sink) return;

@@ -98,7 +98,10 @@ class MUR_API IMURTimelineObject : public TimelineNode {
   virtual bool SpansTime(Date DateA, bool IncludeBoundariesA = true) const = 0;
 
   StringView KeyView(String& ScratchA) const override { return ScratchA = Key(); }
-  std::size_t ChildCount() const override { return static_cast<std::size_t>(Count()); }
+  std::size_t ChildCount() const override {
+    const std::int16_t count = Count();
+    return count > 0 ? static_cast<std::size_t>(count) : 0;
+  }
 };
 
 }  // namespace mur
