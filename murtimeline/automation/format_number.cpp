@@ -45,6 +45,12 @@ class SectionWriter {
       case NumberPart::Literal:
         mText += Span(TokenA);
         break;
+      case NumberPart::DateSeparator:
+        mText += mRegion.dateSeparator;
+        break;
+      case NumberPart::TimeSeparator:
+        mText += mRegion.timeSeparator;
+        break;
       case NumberPart::RequiredDigit:
       case NumberPart::OptionalDigit:
         if (mBehindPoint)

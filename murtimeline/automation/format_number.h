@@ -8,7 +8,16 @@
 
 namespace mur {
 
-enum class NumberPart { Literal, RequiredDigit, OptionalDigit, DecimalPoint, Exponent, General };
+enum class NumberPart {
+  Literal,
+  DateSeparator,
+  TimeSeparator,
+  RequiredDigit,
+  OptionalDigit,
+  DecimalPoint,
+  Exponent,
+  General
+};
 
 /// One section of a number pattern made ready.
 struct NumberSection {

@@ -49,6 +49,12 @@ class SectionParser {
         mSection.shift += 2;
         Push(NumberPart::Literal, 1);
         break;
+      case u'/':
+        Push(NumberPart::DateSeparator, 1);
+        break;
+      case u':':
+        Push(NumberPart::TimeSeparator, 1);
+        break;
       default:
         Push(NumberPart::Literal, 1);
     }

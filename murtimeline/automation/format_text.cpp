@@ -42,8 +42,8 @@ TextSection ParseSection(StringView SourceA) {
 String WriteSection(StringView ValueA, const TextSection& SectionA) {
   String value(ValueA);
   ApplyLetterCase(value, SectionA.letterCase);
-  const std::size_t surplus = value.size() - std::min(value.size(), SectionA.placeholders);
-  std::size_t unfilled = SectionA.leftToRight ? 0 : SectionA.placeholders - (value.size() - surplus);
+  const std::size_t missing = SectionA.placeholders - std::min(value.size(), SectionA.placeholders);
+  std::size_t unfilled = SectionA.leftToRight ? 0 : missing;
   std::size_t next = 0;
   String text;
   for (const TextSection::Token& token : SectionA.tokens) {
@@ -53,13 +53,10 @@ String WriteSection(StringView ValueA, const TextSection& SectionA) {
       if (unfilled > 0) --unfilled;
       if (token.part == TextPart::CharacterOrSpace) text += u' ';
     } else {
-      const std::size_t length = next == 0 && !SectionA.leftToRight ? surplus + 1 : 1;
-      text.append(value, next, length);
-      next += length;
+      text += value[next++];
     }
   }
-  text.append(value, next);
-  return text;
+  return text.append(value, next);
 }
 
 }  // namespace

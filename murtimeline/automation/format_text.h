@@ -29,8 +29,8 @@ struct TextPattern {
 
 TextPattern ParseTextPattern(StringView PatternA);
 
-/// Fills the placeholders from the right unless the pattern says "!"; characters without a placeholder are
-/// never lost, they join the first (from the right) or follow at the end (from the left).
+/// A text that is too short leaves the first placeholders empty, or the last where the pattern says "!". What
+/// is left of a longer one follows at the end.
 String WriteText(StringView ValueA, const TextPattern& PatternA);
 
 }  // namespace mur

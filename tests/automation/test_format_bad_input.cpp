@@ -52,7 +52,7 @@ TEST_F(FormatBadInput, LetsAnOpenQuoteRunToTheEnd) {
   EXPECT_EQ(Format(5, u"0\""), u"5");
   EXPECT_EQ(Format(5, u"\"0;@"), u"0;@");
   EXPECT_EQ(Format(5, String(kLong + 1, u'"') + u"0"), u"0");
-  EXPECT_EQ(Format(u"ab", u"@\"rest"), u"abrest");
+  EXPECT_EQ(Format(u"ab", u"@@\"rest"), u"abrest");
 }
 
 TEST_F(FormatBadInput, TakesABackslashAtTheEndAsNothing) {
