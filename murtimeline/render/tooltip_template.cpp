@@ -30,16 +30,19 @@ constexpr std::array<Placeholder, 10> kPlaceholders{{
 String ReplaceAll(StringView TextA, StringView PatternA, StringView ByA) {
   String result;
   std::size_t from = 0;
-  for (std::size_t at; (at = FindIgnoringCase(TextA, PatternA, from)) != StringView::npos;
+  for (std::size_t at = 0; (at = FindIgnoringCase(TextA, PatternA, from)) != StringView::npos;
        from = at + PatternA.size())
     (result += TextA.substr(from, at - from)) += ByA;
   return result += TextA.substr(from);
 }
 
-// Where a mark is left over, in the template or in a text that was put in, a placeholder of a later kind may
-// come about.
 bool HasMark(StringView TextA) {
   return TextA.find(u'$') != StringView::npos;
+}
+
+// Whether no name of a placeholder can run across the text.
+bool Separates(StringView TextA) {
+  return TextA.find_first_of(u" \t\r\n.,:;!?()[]<>{}/|+=*-_\"'") != StringView::npos;
 }
 
 // The rule itself, step by step.
@@ -53,6 +56,18 @@ String ExpandStepwise(StringView TemplateA, const TooltipTemplate::Compose& Comp
 
 }  // namespace
 
+// A later kind's placeholder may come about by a replacement, from marks that are left over or from the end
+// of one placeholder and the beginning of the next.
+bool TooltipTemplate::IsPlain(const std::vector<Piece>& PiecesA) {
+  for (std::size_t i = 0; i < PiecesA.size(); ++i) {
+    const bool isBetween = i > 0 && i + 1 < PiecesA.size();
+    if (PiecesA[i].type == 0 ? HasMark(PiecesA[i].literal) || (isBetween && !Separates(PiecesA[i].literal))
+                             : i > 0 && PiecesA[i - 1].type != 0)
+      return false;
+  }
+  return true;
+}
+
 TooltipTemplate::Pieces TooltipTemplate::Split(StringView TemplateA) {
   Pieces split{String(TemplateA), {Piece{0, String(TemplateA)}}};
   for (const Placeholder& placeholder : kPlaceholders) {
@@ -60,7 +75,7 @@ TooltipTemplate::Pieces TooltipTemplate::Split(StringView TemplateA) {
     for (Piece& piece : split.list) {
       std::size_t from = 0;
       if (piece.type == 0)
-        for (std::size_t at; (at = FindIgnoringCase(piece.literal, placeholder.text, from)) != String::npos;
+        for (std::size_t at = 0; (at = FindIgnoringCase(piece.literal, placeholder.text, from)) != String::npos;
              from = at + placeholder.text.size()) {
           pieces.push_back({0, piece.literal.substr(from, at - from)});
           pieces.push_back({placeholder.type, {}});
@@ -71,8 +86,7 @@ TooltipTemplate::Pieces TooltipTemplate::Split(StringView TemplateA) {
     split.list = std::move(pieces);
   }
   std::erase_if(split.list, [](const Piece& piece) { return piece.type == 0 && piece.literal.empty(); });
-  split.isPlain = std::none_of(split.list.begin(), split.list.end(),
-                               [](const Piece& piece) { return HasMark(piece.literal); });
+  split.isPlain = IsPlain(split.list);
   return split;
 }
 

@@ -88,7 +88,7 @@ String ScaleTexts::Context(const TickStep& ContextStepA, std::int64_t TimeA, boo
 }
 
 String ScaleTexts::FormattedLabel(std::int64_t TimeA) const {
-  const String text = Formatted(DateOf(mIsRelative ? std::abs(TimeA) : TimeA), mSettings.formatString);
+  String text = Formatted(DateOf(mIsRelative ? std::abs(TimeA) : TimeA), mSettings.formatString);
   if (!mIsRelative || TimeA == 0 || text.empty()) return text;
   return (TimeA < 0 ? u"-" : u"+") + text;
 }

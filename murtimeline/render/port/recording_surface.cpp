@@ -74,7 +74,7 @@ void RecordingSurface::PushClip(const RectF& RectA) {
 }
 
 void RecordingSurface::PopClip() {
-  mLines.push_back("unclip");
+  mLines.emplace_back("unclip");
 }
 
 }  // namespace mur
