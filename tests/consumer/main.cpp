@@ -1,11 +1,11 @@
 // Builds a small time line as a host would, listens to it, and prints it.
+#include <iostream>
+#include <string>
+
 #include <murtimeline/automation/regional.h>
 #include <murtimeline/automation/string.h>
 #include <murtimeline/model/timeline.h>
 #include <murtimeline/model/timeline_owner.h>
-
-#include <iostream>
-#include <string>
 
 int main() {
   const mur::RegionalScope american("en-US");
