@@ -41,7 +41,8 @@ class FlagLayout {
 
 }  // namespace
 
-std::vector<MarkerFlag> LayOutFlags(const Surface& SurfaceA, std::vector<const TimeScaleMarker*> MarkersA,
+std::vector<MarkerFlag> LayOutFlags(const Surface& SurfaceA,
+                                    const std::vector<const TimeScaleMarker*>& MarkersA,
                                     const ScaleSettings& SettingsA, const RectF& BandA,
                                     const TextStyle& StyleA) {
   std::vector<MarkerFlag> flags;

@@ -20,7 +20,7 @@ struct MUR_API MarkerFlag {
 /// The flags of the shown markers from left to right, in a band of the scale. A flag stands to the right of
 /// its pole, at the end of the scale to its left; flags never overlap.
 MUR_API std::vector<MarkerFlag> LayOutFlags(const Surface& SurfaceA,
-                                            std::vector<const TimeScaleMarker*> MarkersA,
+                                            const std::vector<const TimeScaleMarker*>& MarkersA,
                                             const ScaleSettings& SettingsA, const RectF& BandA,
                                             const TextStyle& StyleA);
 
