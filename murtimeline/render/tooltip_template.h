@@ -28,10 +28,11 @@ class TooltipTemplate {
   struct Pieces {
     String text;  // the template itself
     std::vector<Piece> list;
-    bool isPlain = true;  // no mark but those of placeholders
+    bool isPlain = true;  // the texts can be put in side by side
   };
 
   static Pieces Split(StringView TemplateA);
+  static bool IsPlain(const std::vector<Piece>& PiecesA);
 
   // The last template, for it is expanded again and again; shared with the expansions that are going on,
   // since composing a text may run host code.
