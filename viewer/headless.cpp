@@ -5,13 +5,12 @@
 #include <optional>
 #include <ostream>
 
-#include <murtimeline/automation/error.h>
 #include <murtimeline/model/timeline_owner.h>
-#include <murtimeline/render/port/svg_surface.h>
 
 #include "viewer/event_log.h"
 #include "viewer/exact_table.h"
 #include "viewer/headless_control.h"
+#include "viewer/pictures.h"
 #include "viewer/presentation.h"
 
 namespace mur::viewer {
@@ -30,22 +29,6 @@ void PrintDump(const CMURTimeline& TimelineA, double RateA, std::ostream& OutA) 
   WriteExactTable(TimelineA, RateA, LinesTo(OutA));
 }
 
-void WriteFile(const QString& PathA, const QByteArray& BytesA) {
-  QSaveFile file(PathA);
-  if (!file.open(QIODevice::WriteOnly) || file.write(BytesA) != BytesA.size() || !file.commit())
-    throw HeadlessError("cannot write " + PathA.toStdString() + ": " + file.errorString().toStdString());
-}
-
-void WriteSvg(const QString& PathA, const QSize& SizeA, HeadlessControl& ControlA) {
-  SvgSurface surface(static_cast<float>(SizeA.width()), static_cast<float>(SizeA.height()));
-  ControlA.PaintChildren([&](PointF offset, const auto& paint) {
-    surface.PushOffset(offset);
-    paint(surface);
-    surface.PopClip();
-  });
-  WriteFile(PathA, QByteArray::fromStdString(surface.Document()));
-}
-
 }  // namespace
 
 void RunHeadless(const Options& OptionsA, std::ostream& OutA, std::ostream& NotesA) {
@@ -60,9 +43,10 @@ void RunHeadless(const Options& OptionsA, std::ostream& OutA, std::ostream& Note
   for (const std::string& note : file.notes)
     NotesA << OptionsA.file.toStdString() << ": note: " << note << '\n';
   if (OptionsA.dump) PrintDump(*timeline, file.rate, OutA);
-  if (OptionsA.svg.isEmpty()) return;
+  if (!OptionsA.WantsPicture()) return;
   PresentFile(control.Control(), file, {OptionsA.from, OptionsA.duration});
-  WriteSvg(OptionsA.svg, OptionsA.size, control);
+  if (!OptionsA.png.isEmpty()) WritePng(OptionsA.png, control);
+  if (!OptionsA.svg.isEmpty()) WriteSvg(OptionsA.svg, control);
 }
 
 }  // namespace mur::viewer

@@ -14,7 +14,8 @@ float ToTwips(int PixelsA) {
 }  // namespace
 
 HeadlessControl::HeadlessControl(const QSize& SizeA)
-    : mCanvas(Make<MURGraphicCanvas>(mHost.CanvasHost())),
+    : mSize(SizeA),
+      mCanvas(Make<MURGraphicCanvas>(mHost.CanvasHost())),
       mScroller(Make<MURTimelineScroll>(mHost.ScrollerHost())) {
   mHost.SetScaleWidth(ToTwips(SizeA.width()));
   mHost.SetScaleHeight(ToTwips(SizeA.height()));

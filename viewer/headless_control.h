@@ -16,6 +16,7 @@ class HeadlessControl {
   explicit HeadlessControl(const QSize& SizeA);
 
   MURTimelineRender& Control() const { return *mControl; }
+  const QSize& Size() const { return mSize; }
 
   /// Calls `PaintA(offset, paint)` for the time scale and for the canvas: `paint(surface)` draws the child at
   /// the surface's origin, which is to lie at `offset` (pixels) in the picture.
@@ -31,6 +32,7 @@ class HeadlessControl {
   static PointF Origin(const ScriptedChild& ChildA);
   static RectF Extent(const ScriptedChild& ChildA);
 
+  QSize mSize;
   ScriptedHost mHost;
   Ref<MURGraphicCanvas> mCanvas;
   Ref<MURTimelineScroll> mScroller;

@@ -26,10 +26,12 @@ QStringList ArgumentsOf(int CountA, char** ValuesA) {
   return arguments;
 }
 
-// Pictures need fonts but no screen.
 int ShowNothing(const Options& OptionsA, int CountA, char** ValuesA) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(CountA, ValuesA);
+  std::unique_ptr<QGuiApplication> application;
+  if (OptionsA.WantsPicture()) {  // needs fonts but no screen
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    application = std::make_unique<QGuiApplication>(CountA, ValuesA);
+  }
   RunHeadless(OptionsA, std::cout, std::cerr);
   std::cout.flush();
   return std::cout ? 0 : Fail("the output could not be written");

@@ -28,7 +28,8 @@ struct Options {
   bool version = false;
 
   /// Whether everything is done without a window.
-  bool IsHeadless() const { return dump || events || !png.isEmpty() || !svg.isEmpty(); }
+  bool IsHeadless() const { return dump || events || WantsPicture(); }
+  bool WantsPicture() const { return !png.isEmpty() || !svg.isEmpty(); }
 };
 
 /// `ArgumentsA` without the program's name. Throws OptionsError.

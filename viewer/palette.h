@@ -25,7 +25,7 @@ inline constexpr BarColors kTrackColors{FromRgb(0xD5DCE6), kDarkText};
 inline constexpr BarColors kAudioTrackColors{FromRgb(0xD2E5D9), kDarkText};
 inline constexpr BarColors kNestedColors{FromRgb(0xB9C8EC), kDarkText};
 inline constexpr BarColors kVideoColors{FromRgb(0x3F79B8), kLightText};
-inline constexpr BarColors kAudioColors{FromRgb(0x3C8A62), kLightText};
+inline constexpr BarColors kAudioColors{FromRgb(0x2F7A54), kLightText};
 inline constexpr BarColors kTransitionColors{FromRgb(0x8057C8), kLightText};
 inline constexpr BarColors kSubtitleColors{FromRgb(0xF3C04B), kDarkText};
 

@@ -59,7 +59,8 @@ std::optional<BarColors> OwnColors(const IMURTimelineObject& ObjectA, FileKind K
   return std::nullopt;
 }
 
-void FitRows(MURTimelineRender& ControlA) {
+// The bar height at which all rows fit into the canvas.
+float FittingBarHeight(const MURTimelineRender& ControlA) {
   const Ref<CMURTimeline> timeline = ControlA.Timeline();
   float rows = 0, gaps = 0;
   auto members = timeline->NewEnum();
@@ -70,7 +71,17 @@ void FitRows(MURTimelineRender& ControlA) {
   }
   const auto height = static_cast<float>(ControlA.Collaborators().canvas->DrawingHeight());
   const float fitting = rows > 0 ? (height - gaps) / rows - kBarSeparation : kHighestBar;
-  ControlA.SetBarHeight(std::clamp(std::floor(fitting), kLowestBar, kHighestBar));
+  return std::clamp(std::floor(fitting), kLowestBar, kHighestBar);
+}
+
+// Bars keep the height that they were created with until they are told.
+void FitRows(MURTimelineRender& ControlA) {
+  const float height = FittingBarHeight(ControlA);
+  ControlA.SetBarHeight(height);
+  const Ref<IGraphicCanvas> canvas = ControlA.Collaborators().canvas;
+  auto members = ControlA.Timeline()->NewEnum();
+  while (const Ref<IMURTimelineObject> member = members.Next())
+    if (const Ref<ICanvasItem> item = canvas->GraphicByKey(member->Key())) item->SetHeight(height);
   ControlA.AlignTracks();
 }
 

@@ -11,6 +11,19 @@ struct Window {
 
   Window CutTo(const Window& OtherA) const { return {std::max(from, OtherA.from), std::min(to, OtherA.to)}; }
   double Length() const { return to - from; }
+  friend bool operator==(const Window&, const Window&) = default;
+};
+
+// An item in time: all of it, what its surroundings let show, and its length as the file has it, which is
+// more exact than the difference of two instants.
+struct Extent {
+  Window whole, visible;
+  double length;
+
+  bool IsTrimmed() const { return visible != whole; }
+  double VisibleLength() const { return IsTrimmed() ? visible.Length() : length; }
+  // An item without any length shows where it stands.
+  bool Shows() const { return whole.Length() > 0 ? visible.Length() > 0 : visible.Length() >= 0; }
 };
 
 class Layout {
@@ -18,7 +31,7 @@ class Layout {
   explicit Layout(Document& DocumentA) : mDocument(DocumentA) {}
 
   void PlaceTopStack(const OtioNode& StackA, const FrameSum& StartA) {
-    const Window window = Extent(StackA, StartA);
+    const Window window = WindowOf(StackA, StartA);
     AddMarkers(StackA, StartA, window);
     const FrameSum childStart = StartA - StackA.rangeStart;
     for (const std::size_t index : DisplayOrder(StackA)) {
@@ -34,8 +47,13 @@ class Layout {
     Window window;
   };
 
-  static Window Extent(const OtioNode& NodeA, const FrameSum& StartA) {
+  static Window WindowOf(const OtioNode& NodeA, const FrameSum& StartA) {
     return {StartA.Seconds(), (StartA + NodeA.duration).Seconds()};
+  }
+
+  static Extent ExtentOf(const OtioNode& NodeA, const FrameSum& StartA, const Context& ContextA) {
+    const Window whole = WindowOf(NodeA, StartA);
+    return {whole, whole.CutTo(ContextA.window), NodeA.duration.Seconds()};
   }
 
   static std::vector<std::size_t> DisplayOrder(const OtioNode& StackA) {
@@ -71,11 +89,11 @@ class Layout {
   }
 
   void PlaceComposition(const OtioNode& NodeA, const FrameSum& StartA, const Context& ContextA) {
-    const Window window = Extent(NodeA, StartA).CutTo(ContextA.window);
-    if (window.Length() < 0) return;
-    AddMarkers(NodeA, StartA, window);
-    const std::size_t group = AddEntry(GroupOf(NodeA, !ContextA.parent), window, ContextA);
-    const Context inside{group, window};
+    const Extent extent = ExtentOf(NodeA, StartA, ContextA);
+    if (!extent.Shows()) return;
+    AddMarkers(NodeA, StartA, extent.visible);
+    const std::size_t group = AddEntry(GroupOf(NodeA, !ContextA.parent), extent, ContextA);
+    const Context inside{group, extent.visible};
     if (NodeA.kind == OtioKind::Track)
       PlaceInSequence(NodeA, StartA - NodeA.rangeStart, inside);
     else  // What comes first is drawn in front: the uppermost layer.
@@ -97,35 +115,31 @@ class Layout {
 
   void PlaceTransition(const OtioNode& NodeA, const FrameSum& CutA, const Context& ContextA) {
     if (NodeA.kind != OtioKind::Transition) return;
-    const Window extent{(CutA - NodeA.inOffset).Seconds(), (CutA + NodeA.outOffset).Seconds()};
-    const Window visible = extent.CutTo(ContextA.window);
-    if (visible.Length() < 0) return;
+    const Window whole{(CutA - NodeA.inOffset).Seconds(), (CutA + NodeA.outOffset).Seconds()};
+    const double length = (FrameSum(NodeA.inOffset) + NodeA.outOffset).Seconds();
+    const Extent extent{whole, whole.CutTo(ContextA.window), length};
+    if (!extent.Shows()) return;
     Entry entry;
     entry.type = murtlotScalar;
     entry.key = NodeA.name;
     entry.tag = NodeA.tag;
-    AddEntry(std::move(entry), visible, ContextA);
+    AddEntry(std::move(entry), extent, ContextA);
   }
 
   void PlaceClip(const OtioNode& NodeA, const FrameSum& StartA, const Context& ContextA) {
-    const Window extent = Extent(NodeA, StartA);
-    const Window visible = extent.CutTo(ContextA.window);
-    const bool isEmpty = extent.Length() <= 0;
-    if (isEmpty ? visible.Length() < 0 : visible.Length() <= 0) return;
-    AddMarkers(NodeA, StartA, visible);
+    const Extent extent = ExtentOf(NodeA, StartA, ContextA);
+    if (!extent.Shows()) return;
+    AddMarkers(NodeA, StartA, extent.visible);
     Entry entry;
     entry.type = murtlotMedia;
     entry.key = NodeA.name;
     entry.tag = NodeA.tag;
     entry.media = SectionOf(NodeA);
-    const bool isTrimmed = visible.from > extent.from || visible.to < extent.to;
-    if (isTrimmed) {
+    if (extent.IsTrimmed()) {
       entry.media.clipped = true;
-      entry.media.cutIn += visible.from - extent.from;
+      entry.media.cutIn += extent.visible.from - extent.whole.from;
     }
-    const std::size_t index = AddEntry(std::move(entry), visible, ContextA);
-    // The difference of two instants is less exact than the length as written.
-    if (!isTrimmed) mDocument.entries[index].duration = NodeA.duration.Seconds();
+    AddEntry(std::move(entry), extent, ContextA);
   }
 
   static MediaSection SectionOf(const OtioNode& ClipA) {
@@ -156,9 +170,9 @@ class Layout {
     return u"Track " + FromAscii(std::to_string(mTrackNumber)) + u" (" + NodeA.trackKind + u")";
   }
 
-  std::size_t AddEntry(Entry EntryA, const Window& VisibleA, const Context& ContextA) {
-    EntryA.start = VisibleA.from;
-    EntryA.duration = VisibleA.Length();
+  std::size_t AddEntry(Entry EntryA, const Extent& ExtentA, const Context& ContextA) {
+    EntryA.start = ExtentA.visible.from;
+    EntryA.duration = ExtentA.VisibleLength();
     EntryA.parent = ContextA.parent;
     mDocument.entries.push_back(std::move(EntryA));
     return mDocument.entries.size() - 1;

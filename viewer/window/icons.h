@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QIcon>
+
+namespace mur::viewer {
+
+/// What an icon shows.
+enum class Symbol { Open, Picture, Fit, ZoomIn, ZoomOut, Panel, Cancel, Timeline };
+
+/// An icon drawn in lines of the palette's text colour, sharp at every size and scale factor.
+QIcon MakeIcon(Symbol SymbolA);
+
+}  // namespace mur::viewer
