@@ -15,7 +15,8 @@ constexpr float kGap = 6;
 constexpr float kLargestSize = 11;
 constexpr float kSmallestSize = 7;
 constexpr float kLinePerSize = 1.2F;
-constexpr float kLeastRoom = 14;  // narrower, a caption tells nothing
+constexpr float kLeastRoom = 14;   // narrower, not even a short caption fits
+constexpr float kLeastShare = 20;  // narrower, an elided caption tells nothing
 
 enum Column { kLeft, kCentre, kRight, kColumns };
 enum Row { kTop, kMiddle, kBottom, kRows };
@@ -89,7 +90,7 @@ class LinePainter {
   // small a share goes: the right one first, then the left one.
   void ShareWidth() {
     for (const Column victim : {kRight, kLeft, kCentre}) {
-      if (const auto share = EqualShare(); share >= kLeastRoom) {
+      if (const float share = EqualShare(); share >= std::min(kLeastShare, mRight - mLeft)) {
         for (auto& text : mTexts)
           if (text) text = Elided(mSurface, *std::move(text), mStyle, share);
         return;
@@ -106,13 +107,12 @@ class LinePainter {
       if (text) widths[count++] = text->isCut ? mRight - mLeft : text->extent.width;
     std::sort(widths.begin(), widths.begin() + static_cast<std::ptrdiff_t>(count));
     float room = mRight - mLeft - kGap * static_cast<float>(count - std::min<std::size_t>(count, 1));
-    float share = room;
     for (std::size_t at = 0; at < count; ++at) {
-      share = room / static_cast<float>(count - at);
+      const float share = room / static_cast<float>(count - at);
       if (widths[at] > share) return share;
       room -= widths[at];
     }
-    return std::max(share, mRight - mLeft);  // all of them fit
+    return mRight - mLeft;  // all of them fit
   }
 
   // In the middle, unless a neighbour needs more than its half.
@@ -126,9 +126,13 @@ class LinePainter {
   void DrawAt(float XA, Column ColumnA, Row RowA, const RectF& AreaA) {
     if (!mTexts[ColumnA]) return;
     const MeasuredText& text = *mTexts[ColumnA];
+    const float baseline = BaselineOf(RowA, AreaA, text.extent);
+    mSurface.DrawTextLine({Aligned(XA), Aligned(baseline)}, text.text, mStyle);
+  }
+
+  float Aligned(float PixelA) const {
     const float ratio = mSurface.DevicePixelRatio();
-    const float baseline = std::round(BaselineOf(RowA, AreaA, text.extent) * ratio) / ratio;
-    mSurface.DrawTextLine({XA, baseline}, text.text, mStyle);
+    return std::round(PixelA * ratio) / ratio;
   }
 
   static float BaselineOf(Row RowA, const RectF& AreaA, const TextExtent& ExtentA) {

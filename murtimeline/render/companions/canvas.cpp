@@ -89,6 +89,17 @@ void MURGraphicCanvas::RemoveGraphic(const Variant& KeyIndexA) {
   mScene->TakeOff(mItems.Remove(slot)->SceneSlot());
 }
 
+bool MURGraphicCanvas::IsConsistent() const {
+  std::size_t count = 0;
+  for (std::size_t slot = mItems.NextSlot(0); slot != Items::kNone; slot = mItems.NextSlot(slot + 1)) {
+    const CanvasItem& item = *mItems.At(slot);
+    if (mItems.SlotOfKey(item.KeyView()) != slot || mItems.SlotOfPosition(++count) != slot) return false;
+    if (&mScene->ItemOf(item.SceneSlot()) != &item || !mScene->LookOf(item.SceneSlot()).onCanvas)
+      return false;
+  }
+  return count == mItems.Count() && mScene->IsConsistent();
+}
+
 Ref<ICanvasItem> MURGraphicCanvas::ItemInSlot(std::size_t SlotA) const {
   return SlotA == Items::kNone ? Ref<ICanvasItem>() : mItems.At(SlotA);
 }

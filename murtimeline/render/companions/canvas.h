@@ -31,6 +31,9 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas {
   /// Where an item lies, in pixels.
   RectF PixelBounds(const ICanvasItem& ItemA) const;
 
+  /// Whether keys, positions and the spatial order agree; for tests.
+  bool IsConsistent() const;
+
   OleColor BackColor() const override { return mBackColor; }
   void SetBackColor(OleColor ColorA) override;
   std::int16_t OLEDropMode() const override { return mOLEDropMode; }

@@ -35,7 +35,7 @@ void SortUnlessSorted(Container&& ContainerA, Less LessA) {
 }  // namespace
 
 CanvasIndex::Slot CanvasIndex::Add() {
-  if (mFree.empty() || (mStates[mFree.back()] & (kInOrder | kNoted)) != 0) {
+  if (mFree.empty()) {
     mPlaces.emplace_back();
     mStates.push_back(kOnCanvas);
     return Narrow<Slot>(mPlaces.size() - 1);
@@ -88,6 +88,8 @@ void CanvasIndex::Rebuild() {
   if (const Newcomers newcomers = TakeNoted(); !newcomers.empty()) Merge(newcomers);
   mRights.Build(mEntries.size(), [this](std::size_t entry) { return mEntries[entry].right; });
   mBottoms.Build(mRows.size(), [this](std::size_t row) { return mRows[row].Bottom(); });
+  mFree.insert(mFree.end(), mReleased.begin(), mReleased.end());
+  mReleased.clear();
   mStale = 0;
 }
 

@@ -26,7 +26,7 @@ class MUR_API CanvasIndex {
   /// The item is found no more; its slot keeps a place until it is released.
   void TakeOff(Slot SlotA);
   /// The slot may be used anew. Only after TakeOff.
-  void Release(Slot SlotA) { mFree.push_back(SlotA); }
+  void Release(Slot SlotA) { (mStates[SlotA] == 0 ? mFree : mReleased).push_back(SlotA); }
 
   const ItemPlace& PlaceOf(Slot SlotA) const { return mPlaces[SlotA]; }
   void SetPlace(Slot SlotA, const ItemPlace& PlaceA);
@@ -93,6 +93,7 @@ class MUR_API CanvasIndex {
   std::vector<ItemPlace> mPlaces;
   std::vector<std::uint8_t> mStates;
   std::vector<Slot> mFree;
+  std::vector<Slot> mReleased;  // not free yet: the order or the notes may still name them
   std::vector<Slot> mNoted;
   std::size_t mStale = 0;  // slots off the canvas that the order or the notes still name
 

@@ -12,7 +12,7 @@ constexpr float kMajorLength = 7;
 constexpr float kMinorLength = 4;
 constexpr float kLabelGap = 10;
 constexpr float kTextInset = 4;
-constexpr float kLeastMinorDistance = 5;
+constexpr float kLeastMinorDistance = 7;
 constexpr std::int64_t kMostMinorsPerMajor = 10;
 constexpr Rgba kCursorColor{208, 32, 32, 255};
 

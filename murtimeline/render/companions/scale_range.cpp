@@ -17,13 +17,16 @@ std::optional<ScaleRange> RangeOf(const ScaleSettings& SettingsA, double OriginS
   if (!(WidthA > 0 && SettingsA.duration > 0 && std::fabs(start) < kFarthest && std::fabs(end) < kFarthest))
     return {};
   constexpr double kPerSecond = kMillisecondsPerSecond;
-  return ScaleRange{Narrow<std::int64_t>(std::ceil(start * kPerSecond)),
-                    Narrow<std::int64_t>(std::floor(end * kPerSecond)), -start, SettingsA.duration, WidthA};
+  constexpr double kDateNoise = 0.002;  // milliseconds; a tick on the very edge is shown
+  return ScaleRange{Narrow<std::int64_t>(std::ceil(start * kPerSecond - kDateNoise)),
+                    Narrow<std::int64_t>(std::floor(end * kPerSecond + kDateNoise)), -start,
+                    SettingsA.duration, WidthA};
 }
 
 std::optional<float> ShownX(const ScaleSettings& SettingsA, Date WorldTimeA, float WidthA) {
   const double share = (WorldTimeA.Seconds() - SettingsA.StartSeconds()) / SettingsA.duration;
-  if (!(SettingsA.duration > 0 && WidthA > 0 && share >= 0 && share <= 1)) return {};
+  const bool isRange = SettingsA.duration > 0 && std::isfinite(SettingsA.duration) && WidthA > 0;
+  if (!(isRange && share >= 0 && share <= 1)) return {};
   return static_cast<float>(share * static_cast<double>(WidthA));
 }
 

@@ -40,18 +40,19 @@ double FloorOfDate(double ValueA, double NoiseA) {
   return std::floor(ValueA + NoiseA);
 }
 
-double NoiseOf(double SecondsA) {
-  return SecondsA * 4 * std::numeric_limits<double>::epsilon();
+// In frames; never so much that it would show.
+double NoiseOf(double SecondsA, double RateA) {
+  return std::min(SecondsA * RateA * 4 * std::numeric_limits<double>::epsilon(), 0.001);
 }
 
 SplitTime SplitFrames(double SecondsA, double RateA) {
   const double whole = std::floor(SecondsA);
   if (RateA == 0) return {whole, 0};
-  return Carried({whole, FloorOfDate((SecondsA - whole) * RateA, NoiseOf(SecondsA) * RateA)}, RateA);
+  return Carried({whole, FloorOfDate((SecondsA - whole) * RateA, NoiseOf(SecondsA, RateA))}, RateA);
 }
 
 double FramesOf(double SecondsA, double RateA) {
-  return FloorOfDate(SecondsA * RateA, NoiseOf(SecondsA) * RateA);
+  return FloorOfDate(SecondsA * RateA, NoiseOf(SecondsA, RateA));
 }
 
 // A whole number with at least `DigitsA` digits.
