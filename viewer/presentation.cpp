@@ -38,8 +38,10 @@ BarColors ScalarColors(FileKind KindA) {
 }
 
 bool IsSound(const IMURTimelineObject& ObjectA) {
-  const Ref<IMURTimelineObject> parent = ObjectA.Parent();
-  return ObjectA.ObjectType() == murtlotMedia && parent && parent->GroupType() == kAudioTrackGroup;
+  if (ObjectA.ObjectType() != murtlotMedia) return false;
+  Ref<IMURTimelineObject> group = ObjectA.Parent();
+  while (group && group->GroupType() != kAudioTrackGroup) group = group->Parent();
+  return static_cast<bool>(group);
 }
 
 bool IsSlice(const IMURTimelineObject& ObjectA) {

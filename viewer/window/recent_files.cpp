@@ -5,7 +5,7 @@
 namespace mur::viewer {
 namespace {
 
-const QString kKey = QStringLiteral("recentFiles");
+constexpr QLatin1String kKey("recentFiles");
 
 }  // namespace
 

@@ -1,0 +1,30 @@
+#include <gtest/gtest.h>
+
+#include <murtimeline/model/timeline_owner.h>
+
+#include "viewer/loading.h"
+
+namespace mur::viewer::test {
+namespace {
+
+TEST(Samples, HoldAnEditOfSixTracksWithATitleSequence) {
+  const OwnedTimeline timeline;
+  const LoadedFile file = LoadFile(QStringLiteral(MUR_VIEWER_SAMPLES "/feature_film.otio"), *timeline);
+  EXPECT_EQ(file.rate, 25);
+  EXPECT_EQ(timeline->NTrackKeys(), 6);
+  EXPECT_EQ(file.markers.size(), 5U);
+  EXPECT_TRUE(file.notes.empty());
+  EXPECT_EQ(timeline->ItemByKey(u"Title Sequence")->Count(), 2);
+  EXPECT_GT(timeline->Duration(), 180);
+  EXPECT_LT(timeline->Duration(), 240);
+}
+
+TEST(Samples, HoldOverlappingSubtitles) {
+  const OwnedTimeline timeline;
+  LoadFile(QStringLiteral(MUR_VIEWER_SAMPLES "/feature_film.srt"), *timeline);
+  EXPECT_EQ(timeline->NTrackKeys(), 2);
+  EXPECT_EQ(timeline->Count(), 22);
+}
+
+}  // namespace
+}  // namespace mur::viewer::test

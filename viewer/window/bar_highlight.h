@@ -1,0 +1,23 @@
+#pragma once
+
+#include <murtimeline/render/timeline_render.h>
+
+namespace mur::viewer {
+
+/// Shows one bar in the highlight colour of its kind, and gives it its own colours back.
+class BarHighlight {
+ public:
+  explicit BarHighlight(Ref<MURTimelineRender> ControlA) : mControl(std::move(ControlA)) {}
+
+  /// None marks nothing.
+  void Mark(const IMURTimelineObject* ObjectA);
+
+ private:
+  void Restore();
+
+  Ref<MURTimelineRender> mControl;
+  Ref<ICanvasItem> mItem;
+  OleColor mBack = 0, mFore = 0;
+};
+
+}  // namespace mur::viewer

@@ -1,0 +1,22 @@
+#include "viewer/window/time_texts.h"
+
+#include <murtimeline/qt/conversions.h>
+#include <murtimeline/render/companions/time_text.h>
+
+namespace mur::viewer {
+
+QString FileTimeText(const LoadedFile& FileA, Date TimeA) {
+  constexpr std::int32_t kMilliseconds = 3, kTimecode = 4;
+  constexpr int kMicroseconds = 6;
+  const double seconds = (TimeA.Days() - FileA.day.Days()) * kSecondsPerDay;
+  if (FileA.kind == FileKind::ChromeTrace)
+    return QStringLiteral("%1 s").arg(QString::number(seconds, 'f', kMicroseconds));
+  const Ref<MURTimeText> texts = Make<MURTimeText>();
+  return qt::ToQString(texts->FormatSeconds(seconds, FileA.rate > 0 ? kTimecode : kMilliseconds, FileA.rate));
+}
+
+QString WorldTimeText(Date TimeA) {
+  return qt::ToQDateTime(TimeA).toString(QStringLiteral("yyyy-MM-dd  HH:mm:ss.zzz"));
+}
+
+}  // namespace mur::viewer

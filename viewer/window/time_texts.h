@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+#include "viewer/loading.h"
+
+namespace mur::viewer {
+
+/// A time as the file counts it: a timecode in its frame rate, a subtitle's hours to milliseconds, a trace's
+/// seconds to the microsecond.
+QString FileTimeText(const LoadedFile& FileA, Date TimeA);
+
+/// Date and wall clock to the millisecond.
+QString WorldTimeText(Date TimeA);
+
+}  // namespace mur::viewer
