@@ -36,7 +36,7 @@ void RunHeadless(const Options& OptionsA, std::ostream& OutA, std::ostream& Note
   HeadlessControl control(OptionsA.size);
   std::optional<EventLog> log;
   if (OptionsA.events) log.emplace(*timeline, control.Control(), LinesTo(OutA));
-  control.Control().SetTimeline(timeline.Get());
+  if (OptionsA.events || OptionsA.WantsPicture()) control.Control().SetTimeline(timeline.Get());
   const LoadedFile file = LoadFile(OptionsA.file, *timeline);
   log.reset();
 
