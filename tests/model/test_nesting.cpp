@@ -10,19 +10,18 @@
 namespace mur::test {
 namespace {
 
-constexpr int kAbsurdDepth = 100'000;
+constexpr std::size_t kAbsurdDepth = 100'000;
 
 class Nesting : public testing::Test {
  protected:
-  // A chain of groups, each in the one before.
-  std::vector<Ref<CMURTimelineGroup>> Chain(int LengthA, bool LockedA = false) {
-    std::vector<Ref<CMURTimelineGroup>> groups{Make<CMURTimelineGroup>()};
-    for (int i = 1; i < LengthA; ++i) {
-      groups.push_back(Make<CMURTimelineGroup>());
-      groups.back()->SetLockedToParent(LockedA);
-      groups[groups.size() - 2]->Add(groups.back(), u"next");
+  // A chain of groups, each in the one before, built from its end.
+  std::vector<Ref<CMURTimelineGroup>> Chain(std::size_t LengthA, bool LockedA = false) {
+    std::vector<Ref<CMURTimelineGroup>> groups(LengthA);
+    for (auto& group : groups) group = objects.Keep(Make<CMURTimelineGroup>());
+    for (std::size_t i = LengthA - 1; i > 0; --i) {
+      groups[i]->SetLockedToParent(LockedA);
+      groups[i - 1]->Add(groups[i], u"next");
     }
-    objects.Keep(groups.front());
     return groups;
   }
 
@@ -118,25 +117,22 @@ TEST_F(Nesting, AParentChainInARingNeitherHangsNorCrashes) {
 }
 
 TEST_F(Nesting, AHundredThousandLevelsAreBuiltMovedAndDestroyed) {
-  {
-    const auto chain = Chain(kAbsurdDepth, true);
-    chain.front()->SetWorldTimeT0(Date::Unchecked(1));
-    EXPECT_EQ(chain.front()->WorldTimeT0(), Date::Unchecked(1));
-    EXPECT_EQ(chain[1]->WorldTimeT0(), Date::Unchecked(1));
-    EXPECT_THROW(chain.front()->KnownSubtreeDepth(), AutomationError);
-    EXPECT_THROW(chain.front()->AsString(u""), AutomationError);
-  }
-  FreeTree(objects.Keep(Make<CMURTimelineGroup>()));
+  const auto chain = Chain(kAbsurdDepth, true);
+  chain.front()->SetWorldTimeT0(Date::Unchecked(1));
+  EXPECT_EQ(chain.front()->WorldTimeT0(), Date::Unchecked(1));
+  EXPECT_EQ(chain[1]->WorldTimeT0(), Date::Unchecked(1));
+  EXPECT_THROW(chain.front()->KnownSubtreeDepth(), AutomationError);
+  EXPECT_THROW(chain.front()->AsString(u""), AutomationError);
 }
 
 TEST_F(Nesting, AHundredThousandLevelsWithoutParentsGoWhenTheTopGoes) {
   auto top = Make<CMURTimelineGroup>();
-  Ref<IMURTimelineObject> deepest = top;
-  for (int i = 1; i < kAbsurdDepth; ++i) {
-    const auto next = Make<CMURTimelineGroup>();
-    deepest->Add(next, u"next");
-    next->SetParent(nullptr);
-    deepest = next;
+  const Ref<IMURTimelineObject> deepest = top;
+  for (std::size_t i = 1; i < kAbsurdDepth; ++i) {
+    const auto above = Make<CMURTimelineGroup>();
+    above->Add(top, u"next");
+    top->SetParent(nullptr);
+    top = above;
   }
   top = nullptr;
   EXPECT_EQ(deepest->Count(), 0);
@@ -144,7 +140,7 @@ TEST_F(Nesting, AHundredThousandLevelsWithoutParentsGoWhenTheTopGoes) {
 
 TEST_F(Nesting, AHundredThousandLevelsOfParentsGoWhenTheLastChildGoes) {
   Ref<IMURTimelineObject> child;
-  for (int i = 0; i < kAbsurdDepth; ++i) {
+  for (std::size_t i = 0; i < kAbsurdDepth; ++i) {
     const auto next = Make<CMURTimelineScalar>();
     next->SetParent(child);
     child = next;

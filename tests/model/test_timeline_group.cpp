@@ -315,7 +315,7 @@ TEST_F(Group, PutToNotANumberNeitherHangsNorFails) {
   sink.Take();
   child->SetWorldTimeT0(Date::Unchecked(kNone));
   child->SetOffset(kNone);
-  EXPECT_EQ(sink.Take(), "C.WorldtimeT0 = date nan; C.Offset = nan");
+  EXPECT_EQ(sink.Take(), "C.WorldtimeT0 = #nan#; C.Offset = nan");
 }
 
 TEST_F(Group, TellsAForeignChildThatItMoved) {

@@ -234,7 +234,7 @@ TEST_F(Scalar, KeepsItsOffsetWhenAnInfiniteStartMakesItOverflow) {
   AdoptInto(objects.Group(u"G"));
   scalar->SetWorldTimeT0(Date::Unchecked(std::numeric_limits<double>::infinity()));
   EXPECT_EQ(scalar->offset(), 0);
-  EXPECT_EQ(sink.Take(), "S.WorldtimeT0 = date inf");
+  EXPECT_EQ(sink.Take(), "S.WorldtimeT0 = #inf#");
 }
 
 TEST_F(Scalar, SpansItsStartAndEndOnlyWithBoundaries) {

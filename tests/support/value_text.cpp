@@ -42,7 +42,7 @@ std::string DateText(Date ValueA) {
     const auto day = kEpoch + std::chrono::days((total - seconds) / 86400);
     if (DateAt(day, seconds) == ValueA) return CalendarText(day, seconds);
   }
-  return "date " + NumberText(ValueA.Days());
+  return "#" + NumberText(ValueA.Days()) + "#";
 }
 
 Date DateOf(int YearA, unsigned MonthA, unsigned DayA, int HourA, int MinuteA, int SecondA) {

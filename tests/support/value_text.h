@@ -10,7 +10,7 @@ namespace mur::test {
 /// The shortest decimal text that reads back as exactly this number.
 std::string NumberText(double ValueA);
 
-/// `#2000-01-01#` or `#2000-01-01 01:00:30#` for a date on a whole second, else its days: `date 36526.1`.
+/// `#2000-01-01#` or `#2000-01-01 01:00:30#` for a date on a whole second, else its days: `#36526.1#`.
 std::string DateText(Date ValueA);
 
 /// A whole second of the calendar as a date.
