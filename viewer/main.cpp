@@ -8,6 +8,7 @@
 #include "viewer/headless.h"
 #include "viewer/options.h"
 #include "viewer/readers/read_error.h"
+#include "viewer/window/run_window.h"
 
 namespace {
 
@@ -24,6 +25,14 @@ QStringList ArgumentsOf(int CountA, char** ValuesA) {
   QStringList arguments;
   for (int i = 1; i < CountA; ++i) arguments += QString::fromLocal8Bit(ValuesA[i]);
   return arguments;
+}
+
+int ShowWindow(const Options& OptionsA, int CountA, char** ValuesA) {
+  const auto isEmpty = [](const char* name) { return qEnvironmentVariableIsEmpty(name); };
+  if (isEmpty("DISPLAY") && isEmpty("WAYLAND_DISPLAY") && isEmpty("QT_QPA_PLATFORM"))
+    return Fail("there is no display; --png, --svg, --dump and --events need none");
+  QCoreApplication::setApplicationVersion(QStringLiteral(MUR_VIEWER_VERSION));
+  return RunWindow(OptionsA, CountA, ValuesA);
 }
 
 int ShowNothing(const Options& OptionsA, int CountA, char** ValuesA) {
@@ -47,6 +56,7 @@ int Run(int CountA, char** ValuesA) {
     std::cout << "murtimeline-viewer " MUR_VIEWER_VERSION "\n";
     return 0;
   }
+  if (!options.IsHeadless()) return ShowWindow(options, CountA, ValuesA);
   try {
     return ShowNothing(options, CountA, ValuesA);
   } catch (const ReadError& error) {

@@ -77,16 +77,6 @@ float FittingBarHeight(const MURTimelineRender& ControlA) {
 }
 
 // Bars keep the height that they were created with until they are told.
-void FitRows(MURTimelineRender& ControlA) {
-  const float height = FittingBarHeight(ControlA);
-  ControlA.SetBarHeight(height);
-  const Ref<IGraphicCanvas> canvas = ControlA.Collaborators().canvas;
-  auto members = ControlA.Timeline()->NewEnum();
-  while (const Ref<IMURTimelineObject> member = members.Next())
-    if (const Ref<ICanvasItem> item = canvas->GraphicByKey(member->Key())) item->SetHeight(height);
-  ControlA.AlignTracks();
-}
-
 void ShowMarkers(MURTimelineRender& ControlA, const LoadedFile& FileA) {
   const Ref<ITimelineScroll> scale = ControlA.Collaborators().scroller;
   UniqueKeys keys;
@@ -103,20 +93,20 @@ void SetFormats(MURTimelineRender& ControlA, const LoadedFile& FileA) {
   ControlA.SetTimeScaleFormatStyle(FileA.rate == kTimecodeRate ? kTimecode : kMilliseconds);
 }
 
+double ShownLength(const MURTimelineRender& ControlA) {
+  const double length = ControlA.Timeline()->Duration();
+  return length > 0 ? length : kEmptyView;
+}
+
 void ShowRange(MURTimelineRender& ControlA, const LoadedFile& FileA, const VisibleRange& RangeA) {
-  const Ref<CMURTimeline> timeline = ControlA.Timeline();
-  const Date start = timeline->WorldTimeT0();
-  const double length = timeline->Duration() > 0 ? timeline->Duration() : kEmptyView;
-  Date from = RangeA.from ? ResolveTime(*RangeA.from, FileA.day, start, FileA.rate) : start;
-  double duration = RangeA.duration.value_or(AddSeconds(start, length).Seconds() - from.Seconds());
-  if (!RangeA.from && !RangeA.duration) {
-    from = AddSeconds(start, -length * kMargin);
-    duration = length * (1 + 2 * kMargin);
-  }
+  const Date start = ControlA.Timeline()->WorldTimeT0();
   ControlA.SetTZero(start);
   ControlA.SetCursorTime(start);
+  if (!RangeA.from && !RangeA.duration) return ShowAll(ControlA);
+  const Date from = RangeA.from ? ResolveTime(*RangeA.from, FileA.day, start, FileA.rate) : start;
+  const double untilEnd = AddSeconds(start, ShownLength(ControlA)).Seconds() - from.Seconds();
   ControlA.SetWorldTimeT0(from);
-  ControlA.SetDuration(std::max(duration, kShortestView));
+  ControlA.SetDuration(std::max(RangeA.duration.value_or(untilEnd), kShortestView));
 }
 
 }  // namespace
@@ -135,6 +125,22 @@ void PrepareControl(MURTimelineRender& ControlA) {
   ControlA.SetBarSeparation(kBarSeparation);
   ControlA.SetTrackSeparation(kTrackSeparation);
   ControlA.SetTimeScaleHeight(kTimeScaleTwips);
+}
+
+void FitRows(MURTimelineRender& ControlA) {
+  const float height = FittingBarHeight(ControlA);
+  ControlA.SetBarHeight(height);
+  const Ref<IGraphicCanvas> canvas = ControlA.Collaborators().canvas;
+  auto members = ControlA.Timeline()->NewEnum();
+  while (const Ref<IMURTimelineObject> member = members.Next())
+    if (const Ref<ICanvasItem> item = canvas->GraphicByKey(member->Key())) item->SetHeight(height);
+  ControlA.AlignTracks();
+}
+
+void ShowAll(MURTimelineRender& ControlA) {
+  const double length = ShownLength(ControlA);
+  ControlA.SetWorldTimeT0(AddSeconds(ControlA.Timeline()->WorldTimeT0(), -length * kMargin));
+  ControlA.SetDuration(std::max(length * (1 + 2 * kMargin), kShortestView));
 }
 
 void ColorBars(MURTimelineRender& ControlA, const LoadedFile& FileA) {

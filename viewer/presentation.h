@@ -24,6 +24,13 @@ void PrepareControl(MURTimelineRender& ControlA);
 /// outside the range of dates.
 void PresentFile(MURTimelineRender& ControlA, const LoadedFile& FileA, const VisibleRange& RangeA);
 
+/// Makes rows as high as shows all of them, within limits. To be called again when the control has another
+/// height.
+void FitRows(MURTimelineRender& ControlA);
+
+/// Shows the whole time line with a little air at both ends.
+void ShowAll(MURTimelineRender& ControlA);
+
 /// Gives bars the colours that go beyond their kind (sound, subtitles, slices by name). A selection puts all
 /// bars back to the colour of their kind; call this again afterwards.
 void ColorBars(MURTimelineRender& ControlA, const LoadedFile& FileA);

@@ -58,7 +58,7 @@ Ref<ICanvasItem> BarPicker::BarAt(QPointF PointA) const {
   Ref<ICanvasItem> item = canvas->ItemAt(ToPoint(PointA));
   if (!item || item->Kind() != kCursorItem) return item;
   const RectF cursor = canvas->PixelBounds(*item);
-  for (const float beside : {cursor.x - 1, cursor.x + cursor.width + 1}) {
+  for (const float beside : {cursor.left - 1, cursor.Right() + 1}) {
     item = canvas->ItemAt({beside, static_cast<float>(PointA.y())});
     if (item && item->Kind() != kCursorItem) return item;
   }

@@ -1,7 +1,7 @@
 #include "viewer/window/empty_state.h"
 
-#include <QPainter>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 

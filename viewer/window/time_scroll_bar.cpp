@@ -3,6 +3,7 @@
 #include <QScopedValueRollback>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include <murtimeline/qt/event_guard.h>
 #include <murtimeline/qt/timeline_widget.h>
@@ -24,8 +25,7 @@ int Units(double CountA) {
 
 }  // namespace
 
-TimeScrollBar::TimeScrollBar(qt::TimelineWidget& WidgetA)
-    : QScrollBar(Qt::Horizontal), mWidget(WidgetA) {
+TimeScrollBar::TimeScrollBar(qt::TimelineWidget& WidgetA) : QScrollBar(Qt::Horizontal), mWidget(WidgetA) {
   connect(&mWidget, &qt::TimelineWidget::visibleRangeChanged, this,
           [this] { qt::GuardEvent([this] { Follow(); }); });
   connect(this, &QScrollBar::valueChanged, this,
@@ -44,7 +44,7 @@ void TimeScrollBar::Follow() {
   const double untilEnd = SecondsBetween(mOrigin, timeline->WorldTimeT0()) + timeline->Duration();
   const double hidden = std::max(untilEnd - visible, SecondsBetween(mOrigin, start));
   mSecondsAUnit = std::max({visible / kUnitsAPage, hidden / kMostUnits, std::numeric_limits<double>::min()});
-  setRange(0, Units(std::ceil(hidden / mSecondsAUnit)));
+  setRange(0, Units(hidden / mSecondsAUnit));
   setPageStep(std::max(Units(visible / mSecondsAUnit), 1));
   setSingleStep(std::max(pageStep() / kStepsAPage, 1));
   setValue(Units(SecondsBetween(mOrigin, start) / mSecondsAUnit));

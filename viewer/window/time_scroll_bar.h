@@ -24,9 +24,9 @@ class TimeScrollBar final : public QScrollBar {
   void Move(int ValueA);
 
   qt::TimelineWidget& mWidget;
-  Date mOrigin;             // the time at value 0
+  Date mOrigin;  // the time at value 0
   double mSecondsAUnit = 1;
-  bool mBusy = false;       // the bar and the widget are being brought in step
+  bool mBusy = false;  // the bar and the widget are being brought in step
 };
 
 }  // namespace mur::viewer
