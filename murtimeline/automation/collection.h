@@ -4,6 +4,7 @@
 #include <murtimeline/automation/keyed_sequence.h>
 #include <murtimeline/automation/object.h>
 #include <murtimeline/automation/selector.h>
+#include <murtimeline/automation/shared_text.h>
 
 namespace mur {
 
@@ -16,7 +17,8 @@ class MUR_API Collection final : public Object {
   std::size_t Count() const noexcept { return mSequence.Count(); }
 
   /// False, with nothing changed, when the key is already there.
-  bool Add(Ref<T> ItemA, StringView KeyA) { return mSequence.Append({String(KeyA), std::move(ItemA)}); }
+  bool Add(Ref<T> ItemA, SharedText KeyA) { return mSequence.Append({std::move(KeyA), std::move(ItemA)}); }
+  bool Add(Ref<T> ItemA, StringView KeyA) { return Add(std::move(ItemA), SharedText(KeyA)); }
 
   /// The item that `SelectorA` names; none when there is none.
   Ref<T> Find(const Selector& SelectorA) const {
@@ -66,11 +68,11 @@ class MUR_API Collection final : public Object {
 
  private:
   struct Entry {
-    String key;
+    SharedText key;
     Ref<T> item;
   };
   struct KeyOf {
-    StringView operator()(const Entry& EntryA) const { return EntryA.key; }
+    StringView operator()(const Entry& EntryA) const { return EntryA.key.View(); }
   };
   using Sequence = KeyedSequence<Entry, KeyOf>;
 

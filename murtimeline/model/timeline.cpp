@@ -133,9 +133,10 @@ bool CMURTimeline::Insert(const Ref<IMURTimelineObject>& MemberA, const Variant&
     } else {
       return;
     }
-    if (!member || !mMembers->Add(member, key)) return;
+    const SharedText shared(key);
+    if (!member || !mMembers->Add(member, shared)) return;
     MoveShapeRevisionIfTrack(key);
-    member->SetKey(key);
+    member->SetKeyText(shared);
     member->SetEventSink(keep);
     TLObjectAdded.Raise(std::move(key));
     inserted = true;

@@ -33,9 +33,12 @@ void CMURTimelineGroup::Add(const Ref<IMURTimelineObject>& ChildA, StringView Ke
   const Ref<IMURTimelineObject> child = ChildA;
   ResumeNext([&] {
     RequireStackSpace();
-    if (!child || !mChildren || !mChildren->Add(child, KeyA)) return;
+    if (!child || !mChildren) return;
+    SharedText key = child->KeyText();  // the very key, more often than not
+    if (key.View() != KeyA) key = SharedText(KeyA);
+    if (!mChildren->Add(child, key)) return;
     mDepth.AddChild(*child);
-    child->SetKey(KeyA);
+    child->SetKeyText(key);
     child->SetParent(keep);
     if (const Ref<IMURTLObjectEventSink> sink = EventSink()) sink->ObjectAdopted(keep, child);
   });

@@ -8,14 +8,14 @@
 
 namespace mur {
 
-void TimelineObject::SetKey(StringView KeyA) {
+void TimelineObject::SetKeyText(const SharedText& KeyA) {
   mKey = KeyA;
-  Report(u"Key", mKey);
+  if (mEventSink) Report(u"Key", mKey.View());
 }
 
 void TimelineObject::SetTag(StringView TagA) {
-  mTag = TagA;
-  Report(u"Tag", mTag);
+  mTag = SharedText(TagA);
+  if (mEventSink) Report(u"Tag", mTag.View());
 }
 
 void TimelineObject::SetParent(const Ref<IMURTimelineObject>& ParentA) {
@@ -96,8 +96,8 @@ void TimelineObject::Report(StringView PropertyNameA, const Variant& ValueA) {
 
 void TimelineObject::ClearCommonState() {
   const Ref<TimelineObject> keep(this);  // the parent may hold the last reference
-  mKey.clear();
-  mTag.clear();
+  mKey = SharedText();
+  mTag = SharedText();
   mEventSink = nullptr;
   SetParent(nullptr);
   mDuration = 0;

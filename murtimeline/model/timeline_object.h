@@ -17,9 +17,9 @@ namespace mur {
 /// throws, a date out of range) is skipped and the next one runs.
 class MUR_API TimelineObject : public IMURTimelineObject {
  public:
-  String Key() const final { return mKey; }
-  void SetKey(StringView KeyA) final;
-  String Tag() const final { return mTag; }
+  String Key() const final { return String(mKey.View()); }
+  void SetKey(StringView KeyA) final { SetKeyText(SharedText(KeyA)); }
+  String Tag() const final { return String(mTag.View()); }
   void SetTag(StringView TagA) final;
   Ref<IMURTLObjectEventSink> EventSink() const final { return mEventSink; }
   void SetEventSink(const Ref<IMURTLObjectEventSink>& SinkA) final { mEventSink = SinkA; }
@@ -39,7 +39,8 @@ class MUR_API TimelineObject : public IMURTimelineObject {
   void SetLockedToParent(bool LockedToParentA) final;
   bool SpansTime(Date DateA, bool IncludeBoundariesA = true) const final;
 
-  StringView KeyView(String& /*ScratchA*/) const final { return mKey; }
+  SharedText KeyText() const final { return mKey; }
+  void SetKeyText(const SharedText& KeyA) final;
   bool WatchShape() const final;
   bool AppendOwnLines(String& TextA, StringView IndentA) const final;
 
@@ -74,8 +75,8 @@ class MUR_API TimelineObject : public IMURTimelineObject {
   void ParentWorldTimeT0Changed();
   double OffsetFromParent() const;
 
-  String mKey;
-  String mTag;
+  SharedText mKey;
+  SharedText mTag;
   Ref<IMURTLObjectEventSink> mEventSink;
   Ref<IMURTimelineObject> mParent;
   Date mWorldTimeT0;

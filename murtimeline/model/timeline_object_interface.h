@@ -6,6 +6,7 @@
 #include <murtimeline/automation/date.h>
 #include <murtimeline/automation/export.h>
 #include <murtimeline/automation/object.h>
+#include <murtimeline/automation/shared_text.h>
 #include <murtimeline/automation/string.h>
 #include <murtimeline/automation/variant.h>
 #include <murtimeline/model/enumerations.h>
@@ -32,8 +33,10 @@ class MUR_API IMURTLObjectEventSink : public Object {
 /// What our own objects know without being walked. A host's own object need not override anything here.
 class MUR_API TimelineNode : public Object {
  public:
-  /// The key without a copy, for classes that store it; `ScratchA` may be used to hold it.
-  virtual StringView KeyView(String& ScratchA) const = 0;
+  /// The key without a copy, for classes that store it.
+  virtual SharedText KeyText() const = 0;
+  /// Puts the key, for classes that can share it.
+  virtual void SetKeyText(const SharedText& KeyA) = 0;
   /// The number of children beyond what 16 bits can say.
   virtual std::size_t ChildCount() const = 0;
   /// 1 + the depth of the deepest child, for classes that keep it; none where one must walk. Throws Overflow
@@ -97,7 +100,8 @@ class MUR_API IMURTimelineObject : public TimelineNode {
   /// Whether `DateA` lies between start and end, both included by default.
   virtual bool SpansTime(Date DateA, bool IncludeBoundariesA = true) const = 0;
 
-  StringView KeyView(String& ScratchA) const override { return ScratchA = Key(); }
+  SharedText KeyText() const override { return SharedText(Key()); }
+  void SetKeyText(const SharedText& KeyA) override { SetKey(KeyA.View()); }
   std::size_t ChildCount() const override {
     const std::int16_t count = Count();
     return count > 0 ? static_cast<std::size_t>(count) : 0;

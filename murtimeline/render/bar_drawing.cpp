@@ -13,14 +13,12 @@ constexpr std::int16_t kToBack = 1;
 }  // namespace
 
 Ref<ICanvasItem> BarDrawing::ItemOf(const IMURTimelineObject& ObjectA) const {
-  String scratch;
-  return mState.Canvas().GraphicByKey(ObjectA.KeyView(scratch));
+  return mState.Canvas().GraphicByKey(ObjectA.KeyText().View());
 }
 
 void BarDrawing::AddBar(const Ref<IMURTimelineObject>& ObjectA) {
   ResumeNext([&] {
-    String scratch;
-    const Ref<ICanvasItem> item = mState.Canvas().AddGraphic(ObjectA->KeyView(scratch), kObjectBarItem);
+    const Ref<ICanvasItem> item = mState.Canvas().AddGraphicSharing(ObjectA->KeyText(), kObjectBarItem);
     if (!item) return;
     item->SetHeight(mState.barHeight);
     PlaceObjectItemTree(ObjectA, GetNestingLevel(ObjectA));

@@ -75,7 +75,8 @@ TooltipTemplate::Pieces TooltipTemplate::Split(StringView TemplateA) {
     for (Piece& piece : split.list) {
       std::size_t from = 0;
       if (piece.type == 0)
-        for (std::size_t at = 0; (at = FindIgnoringCase(piece.literal, placeholder.text, from)) != String::npos;
+        for (std::size_t at = 0;
+             (at = FindIgnoringCase(piece.literal, placeholder.text, from)) != String::npos;
              from = at + placeholder.text.size()) {
           pieces.push_back({0, piece.literal.substr(from, at - from)});
           pieces.push_back({placeholder.type, {}});

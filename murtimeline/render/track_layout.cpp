@@ -6,11 +6,9 @@
 namespace mur {
 
 float TrackLayout::ComputeTrackTop(const Ref<IMURTimelineObject>& ObjectA) {
-  String scratch;
-  const Ref<IMURTimelineObject> root = GetRootObject(ObjectA);
-  const StringView key = root->KeyView(scratch);
+  const SharedText key = GetRootObject(ObjectA)->KeyText();
   const Ref<CMURTimeline> timeline = mState.timeline;
-  const std::size_t track = timeline ? timeline->TrackPosition(key) : 0;
+  const std::size_t track = timeline ? timeline->TrackPosition(key.View()) : 0;
   return track == 0 ? 0 : TopOfTrack(*timeline, static_cast<std::size_t>(Narrow<std::int16_t>(track)));
 }
 

@@ -78,7 +78,7 @@ Ref<ICanvasItem> MURGraphicCanvas::GraphicByKey(StringView KeyA) const {
   return ItemInSlot(mItems.SlotOfKey(KeyA));
 }
 
-Ref<ICanvasItem> MURGraphicCanvas::AddGraphic(StringView KeyA, int KindA) {
+Ref<ICanvasItem> MURGraphicCanvas::AddGraphicSharing(const SharedText& KeyA, int KindA) {
   Ref<CanvasItem> item = Make<CanvasItem>(mScene, KeyA, KindA);
   return mItems.Append(item) ? item : Ref<ICanvasItem>();
 }

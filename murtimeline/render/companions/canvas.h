@@ -48,7 +48,10 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas {
   std::size_t GraphicCount() const override { return mItems.Count(); }
   Ref<ICanvasItem> Graphic(const Variant& KeyIndexA) const override;
   Ref<ICanvasItem> GraphicByKey(StringView KeyA) const override;
-  Ref<ICanvasItem> AddGraphic(StringView KeyA, int KindA) override;
+  Ref<ICanvasItem> AddGraphic(StringView KeyA, int KindA) override {
+    return AddGraphicSharing(SharedText(KeyA), KindA);
+  }
+  Ref<ICanvasItem> AddGraphicSharing(const SharedText& KeyA, int KindA) override;
   void RemoveGraphic(const Variant& KeyIndexA) override;
 
  private:

@@ -4,6 +4,7 @@
 
 #include <murtimeline/automation/event.h>
 #include <murtimeline/automation/export.h>
+#include <murtimeline/automation/shared_text.h>
 #include <murtimeline/render/companions/canvas_item_interface.h>
 #include <murtimeline/render/port/geometry.h>
 
@@ -35,6 +36,10 @@ class MUR_API IGraphicCanvas : public Object {
   virtual Ref<ICanvasItem> GraphicByKey(StringView KeyA) const { return Graphic(Variant(KeyA)); }
   /// A new item on top of the others; none when the key exists.
   virtual Ref<ICanvasItem> AddGraphic(StringView KeyA, int KindA) = 0;
+  /// The same, for canvases that can share the key.
+  virtual Ref<ICanvasItem> AddGraphicSharing(const SharedText& KeyA, int KindA) {
+    return AddGraphic(KeyA.View(), KindA);
+  }
   /// Throws SubscriptOutOfRange when there is no such item.
   virtual void RemoveGraphic(const Variant& KeyIndexA) = 0;
 };

@@ -3,8 +3,8 @@
 
 namespace mur {
 
-CanvasItem::CanvasItem(Ref<CanvasScene> SceneA, StringView KeyA, int KindA)
-    : mKind(KindA), mSlot(SceneA->Add(*this)), mScene(std::move(SceneA)), mKey(KeyA) {}
+CanvasItem::CanvasItem(Ref<CanvasScene> SceneA, SharedText KeyA, int KindA)
+    : mKind(KindA), mSlot(SceneA->Add(*this)), mScene(std::move(SceneA)), mKey(std::move(KeyA)) {}
 
 CanvasItem::~CanvasItem() {
   mScene->Forget(mSlot);

@@ -12,7 +12,7 @@ namespace mur {
 /// the other items, so that painting reads them in one go.
 class MUR_API CanvasItem final : public ICanvasItem {
  public:
-  CanvasItem(Ref<CanvasScene> SceneA, StringView KeyA, int KindA);
+  CanvasItem(Ref<CanvasScene> SceneA, SharedText KeyA, int KindA);
   ~CanvasItem() override;
 
   StringView KeyView() const noexcept { return mKey.View(); }
@@ -49,7 +49,7 @@ class MUR_API CanvasItem final : public ICanvasItem {
   OleColor mForeColor = 0x80000012;  // button text
   std::uint32_t mSlot;
   Ref<CanvasScene> mScene;
-  CompactText mKey;
+  SharedText mKey;
   ItemTexts mTexts;
 };
 

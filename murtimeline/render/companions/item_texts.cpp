@@ -22,7 +22,7 @@ bool ItemTexts::SetCaption(int SiteA, StringView CaptionA) {
 bool ItemTexts::Set(std::size_t PlaceA, StringView TextA) {
   if (At(PlaceA) == TextA) return false;
   if (!mTexts) mTexts = std::make_unique<Texts>();
-  (*mTexts)[PlaceA].Assign(TextA);
+  (*mTexts)[PlaceA] = SharedText(TextA);
   return true;
 }
 

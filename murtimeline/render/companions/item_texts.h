@@ -4,7 +4,7 @@
 #include <memory>
 
 #include <murtimeline/automation/export.h>
-#include <murtimeline/render/companions/compact_text.h>
+#include <murtimeline/automation/shared_text.h>
 
 namespace mur {
 
@@ -24,7 +24,7 @@ class MUR_API ItemTexts {
 
  private:
   // The tool tip first, then the sites.
-  using Texts = std::array<CompactText, kSites + 1>;
+  using Texts = std::array<SharedText, kSites + 1>;
 
   StringView At(std::size_t PlaceA) const noexcept {
     return mTexts ? (*mTexts)[PlaceA].View() : StringView();
