@@ -118,10 +118,10 @@ QRectF PainterSurface::Snapped(const RectF& RectA) const {
   return {topLeft.x(), topLeft.y(), std::max(width, SnappedWidth(0)), std::max(height, SnappedWidth(0))};
 }
 
-// Whole device pixels, at least one.
+// Whole device pixels, at least one; a half is dropped, so that thin lines stay thin at 1.5.
 qreal PainterSurface::SnappedWidth(float WidthA) const {
   const qreal ratio = mToDevice.m11();
-  return std::max(std::round(static_cast<qreal>(WidthA) * ratio), 1.0) / ratio;
+  return std::max(std::ceil(static_cast<qreal>(WidthA) * ratio - 0.5), 1.0) / ratio;
 }
 
 void PainterSurface::DrawSmoothly(const QPen& PenA, const QBrush& BrushA) {
