@@ -76,7 +76,6 @@ float FittingBarHeight(const MURTimelineRender& ControlA) {
   return std::clamp(std::floor(fitting), kLowestBar, kHighestBar);
 }
 
-// Bars keep the height that they were created with until they are told.
 void ShowMarkers(MURTimelineRender& ControlA, const LoadedFile& FileA) {
   const Ref<ITimelineScroll> scale = ControlA.Collaborators().scroller;
   UniqueKeys keys;
@@ -127,6 +126,7 @@ void PrepareControl(MURTimelineRender& ControlA) {
   ControlA.SetTimeScaleHeight(kTimeScaleTwips);
 }
 
+// Bars keep the height that they were created with until they are told.
 void FitRows(MURTimelineRender& ControlA) {
   const float height = FittingBarHeight(ControlA);
   ControlA.SetBarHeight(height);
