@@ -45,7 +45,7 @@ void RemoveSceneItemsFromTheFront(benchmark::State& StateA) {
     const auto sample = std::make_unique<SceneSample>();
     sample->Add(count);
     sample->Place(ItemStart(count));
-    sample->Index();
+    sample->Settle();
     Measure(StateA, count, [&] {
       for (QGraphicsRectItem* item : sample->items) delete item;
     });

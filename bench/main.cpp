@@ -1,6 +1,7 @@
 #include <QApplication>
 
 #include "growth_reporter.h"
+#include "sample_cache.h"
 
 // Sizes and repetitions can be narrowed with the options of Google Benchmark, for example
 // --benchmark_filter=repaint.
@@ -10,5 +11,6 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   mur::bench::GrowthReporter reporter;
   benchmark::RunSpecifiedBenchmarks(&reporter);
+  mur::bench::ReleaseSamples();
   return 0;
 }

@@ -3,32 +3,49 @@
 namespace mur::bench {
 namespace {
 
-template <class Sample, class Fill>
-Sample& Cached(int CountA, Fill&& FillA) {
-  static int size = 0;
-  static std::unique_ptr<Sample> sample;
-  if (size != CountA) {
+template <class Sample>
+struct Cache {
+  template <class Fill>
+  Sample& Get(int CountA, Fill&& FillA) {
+    if (size == CountA) return *sample;
     sample = nullptr;
     sample = std::make_unique<Sample>();
     sample->Add(CountA);
     FillA(*sample);
     size = CountA;
+    return *sample;
   }
-  return *sample;
-}
+  void Release() {
+    sample = nullptr;
+    size = 0;
+  }
+
+  std::unique_ptr<Sample> sample;
+  int size = 0;
+};
+
+Cache<TimelineSample> gTimeline;
+Cache<SceneSample> gScene;
 
 }  // namespace
 
 TimelineSample& FilledTimeline(int CountA) {
-  return Cached<TimelineSample>(CountA, [](TimelineSample& sample) {
+  return gTimeline.Get(CountA, [](TimelineSample& sample) {
     sample.SpreadInTime();
     sample.Show(sample.Length());
   });
 }
 
 SceneSample& FilledScene(int CountA) {
-  return Cached<SceneSample>(
-      CountA, [CountA](SceneSample& sample) { sample.Place(ItemStart(CountA) + kItemStepSeconds); });
+  return gScene.Get(CountA, [CountA](SceneSample& sample) {
+    sample.Place(ItemStart(CountA) + kItemStepSeconds);
+    sample.Settle();
+  });
+}
+
+void ReleaseSamples() {
+  gTimeline.Release();
+  gScene.Release();
 }
 
 }  // namespace mur::bench

@@ -8,5 +8,7 @@ namespace mur::bench {
 /// are. Only the last size is kept.
 TimelineSample& FilledTimeline(int CountA);
 SceneSample& FilledScene(int CountA);
+/// Gives both up; to be called while there still is an application.
+void ReleaseSamples();
 
 }  // namespace mur::bench

@@ -1,14 +1,14 @@
 #include "samples.h"
 
-#include <QGraphicsRectItem>
+#include <QCoreApplication>
 
 #include <malloc.h>
 
 namespace mur::bench {
 namespace {
 const Date kStart = Date::Unchecked(36526);  // 1 January 2000
-constexpr float kRowHeight = 14;
-constexpr float kRowGap = 3;
+constexpr double kRowHeight = 14;
+constexpr double kRowGap = 3;
 }  // namespace
 
 double ItemStart(int IndexA) {
@@ -27,9 +27,9 @@ TimelineSample::TimelineSample() {
   control = Make<MURTimelineRender>(host, Companions{canvas, {}, {}, {}});
   control->Resize();
   control->SetTimeline(timeline.Get());
-  control->SetBarHeight(kRowHeight / 2);
+  control->SetBarHeight(static_cast<float>(kRowHeight) / 2);
   control->SetBarSeparation(1);
-  control->SetTrackSeparation(kRowGap);
+  control->SetTrackSeparation(static_cast<float>(kRowGap));
   timeline->SetWorldTimeT0(kStart);
   for (int i = 0; i < kTracks; ++i)
     tracks.push_back(timeline->Add(murtlotGroup, FromAscii("Track " + std::to_string(i)), true));
@@ -61,11 +61,22 @@ double TimelineSample::Length() const {
   return ItemStart(static_cast<int>(scalars.size())) + kItemStepSeconds;
 }
 
+SceneSample::SceneSample() : view(&scene) {
+  view.setFrameShape(QFrame::NoFrame);
+  view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  view.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  view.resize(kPictureWidth, kPictureHeight);
+  view.show();
+}
+
+SceneSample::~SceneSample() {
+  Settle();  // items that are not in the index yet cost a scan each when they go
+}
+
 void SceneSample::Add(int CountA) {
-  for (int i = 0; i < CountA; ++i) {
-    auto* item = scene.addRect(QRectF(), QPen(Qt::NoPen), QBrush(QColor(90, 130, 190)));
-    items.push_back(item);
-  }
+  for (int i = 0; i < CountA; ++i)
+    items.push_back(scene.addRect(QRectF(), QPen(Qt::NoPen), QBrush(QColor(90, 130, 190))));
 }
 
 void SceneSample::Place(double SecondsA) {
@@ -78,8 +89,13 @@ void SceneSample::Place(double SecondsA) {
   }
 }
 
-void SceneSample::Index() {
+void SceneSample::Settle() {
+  QCoreApplication::processEvents();
   scene.items(QPointF());
+}
+
+void SceneSample::Paint(QPainter& PainterA) {
+  view.render(&PainterA);
 }
 
 }  // namespace mur::bench

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QGraphicsRectItem>
 #include <QGraphicsScene>
+#include <QGraphicsView>
 #include <memory>
 #include <vector>
 
@@ -39,19 +41,21 @@ class TimelineSample {
   std::vector<Ref<IMURTimelineObject>> scalars;
 };
 
-/// The same picture as a plain scene of rectangle items.
+/// The same picture as a plain scene of rectangle items in a shown view, all with Qt's default settings.
 class SceneSample {
  public:
+  SceneSample();
+  ~SceneSample();
+
   void Add(int CountA);
   /// Gives every item the place that it has when that many seconds are shown over the picture's width.
   void Place(double SecondsA);
-  /// Makes the scene take all new items into its index. It does so by itself before it paints; items that
-  /// leave before that cost a scan each.
-  void Index();
-
-  ~SceneSample() { Index(); }
+  /// Lets the scene do what it left for later, its index above all.
+  void Settle();
+  void Paint(QPainter& PainterA);
 
   QGraphicsScene scene;
+  QGraphicsView view;
   std::vector<QGraphicsRectItem*> items;
 };
 
