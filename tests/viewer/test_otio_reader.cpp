@@ -76,6 +76,29 @@ TEST(OtioReader, DoesNotDriftOverThousandsOfClips) {
   EXPECT_EQ(document.duration, 15000 / 25.0 + 15000 / 23.976024);
 }
 
+TEST(OtioReader, KeepsWholeMediaWholeAmongManyRates) {
+  std::string clips;
+  for (const double rate : {24.0, 24000 / 1001.0, 30000 / 1001.0, 25.0, 7.0, 48000.0})
+    for (int value = 1; value < 40; value += 3)
+      clips += (clips.empty() ? "" : ",") +
+               (R"({"OTIO_SCHEMA":"Clip.1","media_reference":{"OTIO_SCHEMA":"MissingReference.1",)"
+                R"("available_range":)" +
+                Range(5, value, rate) + "}}");
+  const Document document = Read(kKind, Composition("Stack.1", Composition("Track.1", clips)));
+  ASSERT_EQ(document.entries.size(), 79U);
+  for (std::size_t i = 1; i < document.entries.size(); ++i) EXPECT_FALSE(document.entries[i].media.clipped);
+}
+
+TEST(OtioReader, LeavesOutWhatOnlyTouchesATrimmedRange) {
+  const std::string clips = Clip("a", 0, 1, 3) + "," + Clip("b", 0, 1, 7) + "," + Clip("c", 0, 1, 10);
+  const std::string nested = Composition("Track.1", clips, R"(,"source_range":)" + Range(1, 1, 3));
+  EXPECT_EQ(Outline(Read(kKind, Composition("Track.1", nested))),
+            "group C @0 +0.333333333\n"
+            "  group C @0 +0.333333333\n"
+            "    media b @0 +0.142857143 in 0 of 0 \n"
+            "    media c @0.142857143 +0.1 in 0 of 0 \n");
+}
+
 TEST(OtioReader, TrimsWhatLiesOutsideANestedSourceRange) {
   const std::string clips = Clip("a", 10, 20, 10) + "," + Clip("b", 0, 20, 10) + "," + Clip("c", 0, 20, 10);
   const std::string nested = Composition("Track.1", clips, R"(,"source_range":)" + Range(15, 20, 10));

@@ -5,13 +5,16 @@
 namespace mur::viewer {
 namespace {
 
+// Sums of times at several rates may differ by this much (seconds) with the order of their terms.
+constexpr double kRounding = 1e-9;
+
 // A stretch of the time line in seconds.
 struct Window {
   double from, to;
 
   Window CutTo(const Window& OtherA) const { return {std::max(from, OtherA.from), std::min(to, OtherA.to)}; }
   double Length() const { return to - from; }
-  friend bool operator==(const Window&, const Window&) = default;
+  bool Contains(double TimeA) const { return TimeA >= from - kRounding && TimeA <= to + kRounding; }
 };
 
 // An item in time: all of it, what its surroundings let show, and its length as the file has it, which is
@@ -20,10 +23,12 @@ struct Extent {
   Window whole, visible;
   double length;
 
-  bool IsTrimmed() const { return visible != whole; }
+  bool IsTrimmed() const {
+    return visible.from > whole.from + kRounding || visible.to < whole.to - kRounding;
+  }
   double VisibleLength() const { return IsTrimmed() ? visible.Length() : length; }
   // An item without any length shows where it stands.
-  bool Shows() const { return whole.Length() > 0 ? visible.Length() > 0 : visible.Length() >= 0; }
+  bool Shows() const { return visible.Length() > (whole.Length() > kRounding ? kRounding : -kRounding); }
 };
 
 class Layout {
@@ -182,7 +187,7 @@ class Layout {
   void AddMarkers(const OtioNode& NodeA, const FrameSum& StartA, const Window& VisibleA) {
     for (const OtioMarker& marker : NodeA.markers) {
       const double time = (StartA + marker.range.start - NodeA.rangeStart).Seconds();
-      if (time < VisibleA.from || time > VisibleA.to) continue;
+      if (!VisibleA.Contains(time)) continue;
       mDocument.markers.push_back(
           {marker.name, time, marker.range.duration.Seconds(), marker.color, marker.comment});
     }
