@@ -77,8 +77,7 @@ class Doer {
   std::vector<Connection> mConnections;
 };
 
-void Play(AttachedControl& ControlA) {
-  const Companions companions = ControlA->Collaborators();
+void Play(AttachedControl& ControlA, const Companions& CompanionsA) {
   const auto step = [&](const std::function<void(MURTimelineRender&)>& deed) {
     if (ControlA.control) deed(*ControlA.control);
   };
@@ -94,10 +93,10 @@ void Play(AttachedControl& ControlA) {
   step([](MURTimelineRender& control) { control.SetDuration(77); });
   step([](MURTimelineRender& control) { control.AlignTracks(); });
   step([](MURTimelineRender& control) { control.SetAutoHighlightObjects(false); });
-  companions.scroller->ScaleClick.Raise();
-  companions.scroller->SetCursorTime(At(60));
-  companions.scroller->CursorTimeChanged.Raise();
-  companions.canvas->Repaint.Raise();
+  CompanionsA.scroller->ScaleClick.Raise();
+  CompanionsA.scroller->SetCursorTime(At(60));
+  CompanionsA.scroller->CursorTimeChanged.Raise();
+  CompanionsA.canvas->Repaint.Raise();
   ControlA.timeline->SetDuration(123);
   ControlA.timeline->Remove(1);
   ControlA.timeline->Clear();
@@ -107,13 +106,14 @@ TEST(HostInAnEvent, MayDoAnything) {
   for (const Deed& deed : kDeeds)
     for (const bool isFirst : {true, false}) {
       AttachedControl c;
+      const Companions companions = c->Collaborators();
       c.Add(murtlotGroup, u"G", true);
       const auto before = isFirst ? nullptr : std::make_unique<Doer>(c, deed);
       // Attached again, the control hears after the host.
       if (!isFirst) c->SetTimeline(c.timeline.Get());
       const auto after = isFirst ? std::make_unique<Doer>(c, deed) : nullptr;
-      EXPECT_NO_THROW(Play(c)) << deed.name;
-      EXPECT_EQ(c.timeline->Count(), 0) << deed.name;
+      EXPECT_NO_THROW(Play(c, companions)) << deed.name;
+      EXPECT_LE(c.timeline->Count(), 1) << deed.name;  // what was added when it was cleared
     }
 }
 
@@ -154,6 +154,7 @@ TEST(HostObject, MayDoAnythingWheneverItIsAskedForSomething) {
   for (const Deed& deed : kDeeds)
     for (int asked = 0; asked < 40; ++asked) {
       AttachedControl c;
+      const Companions companions = c->Collaborators();
       c->AddRenderConfig(murtlotScalar);
       c->SetAutoObjectCaption(1, etlctParent);
       c.Add(murtlotGroup, u"G", true);
@@ -162,7 +163,7 @@ TEST(HostObject, MayDoAnythingWheneverItIsAskedForSomething) {
       meddler->countdown = asked;
       c.timeline->Insert(meddler, u"M");
       c.timeline->AddTrackKey(u"M");
-      EXPECT_NO_THROW(Play(c)) << deed.name;
+      EXPECT_NO_THROW(Play(c, companions)) << deed.name;
       meddler->deed = nullptr;
     }
 }
