@@ -42,6 +42,7 @@ std::uint32_t HashIgnoringCase(StringView TextA) {
 }
 
 std::size_t FindIgnoringCase(StringView TextA, StringView PatternA, std::size_t FromA) {
+  if (FromA > TextA.size()) return StringView::npos;
   for (std::size_t start = FromA; start + PatternA.size() <= TextA.size(); ++start)
     if (EqualIgnoringCase(TextA.substr(start, PatternA.size()), PatternA)) return start;
   return StringView::npos;

@@ -23,7 +23,7 @@ class MUR_API LiveSlots {
   void Remove(std::size_t SlotA);
   /// The slot of the `RankA`-th live slot, from 0.
   std::size_t Select(std::size_t RankA) const;
-  /// How many live slots lie before `SlotA`.
+  /// How many live slots lie before `SlotA`, which is live itself.
   std::size_t Rank(std::size_t SlotA) const;
   /// The first live slot at or after `SlotA`; the number of slots when there is none.
   std::size_t NextLive(std::size_t SlotA) const;

@@ -1,0 +1,54 @@
+#include <gtest/gtest.h>
+
+#include <murtimeline/automation/case_folding.h>
+
+namespace mur {
+namespace {
+
+struct Pair {
+  String left, right;
+  bool equal;
+};
+
+TEST(CaseFolding, TellsWhichTextsAreEqualButForTheirCase) {
+  const std::vector<Pair> pairs = {
+      {u"", u"", true},
+      {u"abc", u"ABC", true},
+      {u"abc", u"abd", false},
+      {u"abc", u"ab", false},
+      {u"[", u"{", false},  // 32 apart like letters, but none
+      {u"@", u"`", false},
+      {u"\u00C4", u"\u00E4", true},
+      {u"\u0416", u"\u0436", true},          // Cyrillic
+      {u"\u03A3", u"\u03C3", true},          // Greek
+      {u"\U00010400", u"\U00010428", true},  // beyond 16 bits
+      {u"stra\u00DFe", u"STRASSE", false},   // code point by code point
+      {{u'a', u'\0', u'b'}, {u'A', u'\0', u'B'}, true},
+      {{u'a', u'\0', u'b'}, {u'A', u'\0', u'C'}, false},
+      {{char16_t{0xD800}}, {char16_t{0xD801}}, false},
+      {{char16_t{0xD800}, u'A'}, {char16_t{0xD800}, u'a'}, true},
+  };
+  for (const auto& [left, right, equal] : pairs) {
+    EXPECT_EQ(EqualIgnoringCase(left, right), equal) << ToUtf8(left) << " / " << ToUtf8(right);
+    EXPECT_TRUE(!equal || HashIgnoringCase(left) == HashIgnoringCase(right)) << ToUtf8(left);
+  }
+}
+
+TEST(CaseFolding, SpreadsTheHashesOfGeneratedKeys) {
+  std::vector<int> buckets(64);
+  for (int i = 0; i < 6400; ++i) ++buckets[HashIgnoringCase(u"Key_" + FromAscii(std::to_string(i))) % 64];
+  for (const int count : buckets) EXPECT_NEAR(count, 100, 60);
+}
+
+TEST(CaseFolding, FindsATextInAnotherInAnyCase) {
+  EXPECT_EQ(FindIgnoringCase(u"The Cursor", u"cURSOR"), 4u);
+  EXPECT_EQ(FindIgnoringCase(u"aXbxc", u"x", 2), 3u);
+  EXPECT_EQ(FindIgnoringCase(u"abc", u"d"), StringView::npos);
+  EXPECT_EQ(FindIgnoringCase(u"abc", u"abcd"), StringView::npos);
+  EXPECT_EQ(FindIgnoringCase(u"abc", u"", 3), 3u);
+  EXPECT_EQ(FindIgnoringCase(u"abc", u"c", 4), StringView::npos);
+  EXPECT_EQ(FindIgnoringCase(u"abc", u"c", StringView::npos), StringView::npos);
+}
+
+}  // namespace
+}  // namespace mur
