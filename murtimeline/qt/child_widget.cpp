@@ -56,12 +56,14 @@ void ChildWidget::paintEvent(QPaintEvent* EventA) {
 
 bool ChildWidget::ShowToolTip(const QHelpEvent& EventA) {
   const QPointF at(EventA.pos());
-  const QString text = ToQString(mToolTip({static_cast<float>(at.x()), static_cast<float>(at.y())}));
-  if (text.isEmpty()) {
+  const HoverText hover = mToolTip({static_cast<float>(at.x()), static_cast<float>(at.y())});
+  if (hover.text.empty()) {
     QToolTip::hideText();
-  } else {
-    QToolTip::showText(EventA.globalPos(), PlainToolTip(text), this);
+    return true;
   }
+  const QRectF area(hover.area.left, hover.area.top, hover.area.width, hover.area.height);
+  QToolTip::showText(EventA.globalPos(), PlainToolTip(ToQString(hover.text)), this,
+                     hover.area.IsEmpty() ? rect() : area.toAlignedRect() & rect());
   return true;
 }
 

@@ -10,12 +10,18 @@ class QHelpEvent;
 
 namespace mur::qt {
 
+/// A text to show while the pointer rests in an area (pixels); an empty area is all of the widget.
+struct HoverText {
+  String text;
+  RectF area;
+};
+
 /// The window of one companion: it paints all of itself at once and shows tool tips for what lies under the
 /// pointer.
 class ChildWidget final : public QWidget {
  public:
   using PaintFunction = std::function<void(Surface& SurfaceA, const RectF& DirtyA)>;
-  using ToolTipFunction = std::function<String(PointF PointA)>;
+  using ToolTipFunction = std::function<HoverText(PointF PointA)>;
 
   /// `MeasuresA` outlives the widget.
   ChildWidget(TextMeasures& MeasuresA, QWidget* ParentA);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtGlobal>
+#include <exception>
 #include <utility>
 
 namespace mur::qt {

@@ -68,8 +68,11 @@ TimelineWidget::Parts::Parts(QWidget& OwnerA)
   };
   scaleWidget->SetPaint(paint(*scroller));
   canvasWidget->SetPaint(paint(*canvas));
-  scaleWidget->SetToolTip([this](PointF) { return scaleHost.ToolTipText(); });
-  canvasWidget->SetToolTip([this](PointF point) { return canvas->ToolTipAt(point); });
+  scaleWidget->SetToolTip([this](PointF) { return HoverText{scaleHost.ToolTipText(), {}}; });
+  canvasWidget->SetToolTip([this](PointF point) {
+    const Ref<ICanvasItem> item = canvas->ItemAt(point);
+    return HoverText{canvas->ToolTipAt(point), item ? canvas->PixelBounds(*item) : RectF()};
+  });
 }
 
 void TimelineWidget::Parts::LayOut(QSizeF SizeA) {

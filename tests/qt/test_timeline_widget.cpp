@@ -238,6 +238,17 @@ TEST(TimelineWidget, ShowsTheToolTipOfTheBarUnderThePointer) {
   EXPECT_EQ(ToolTipAt(widget, {20, 85}), "Take 1");
 }
 
+TEST(TimelineWidget, AToolTipEndsWhereItsBarEnds) {
+  TimelineWidget widget;
+  const SampleTimeline sample(widget);
+  widget.resize(600, 400);
+  widget.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
+  ASSERT_EQ(ToolTipAt(widget, {20, 85}), "Take 1");
+  QTest::mouseMove(&CanvasOf(widget), {200, 85});
+  EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+}
+
 TEST(TimelineWidget, ShowsItsOwnToolTipWhereThereIsNoBar) {
   TimelineWidget widget;
   const SampleTimeline sample(widget);
