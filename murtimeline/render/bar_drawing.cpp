@@ -110,6 +110,7 @@ void BarDrawing::ReplaceAllBars() {
 }
 
 void BarDrawing::RefreshCaptions(const IMURTimelineObject& ObjectA) {
+  if (!mCaptions.AreAutomatic()) return;
   ResumeNext([&] {
     if (const Ref<ICanvasItem> item = ItemOf(ObjectA)) mCaptions.ApplyAutoCaptions(ObjectA, *item);
   });

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <murtimeline/automation/guard.h>
 #include <murtimeline/automation/regional.h>
 #include <murtimeline/render/captions.h>
@@ -79,6 +81,11 @@ String Captions::ComposeAutoCaption(const IMURTimelineObject& ObjectA, std::int3
   String text;
   ResumeNext([&] { text = Compose(ObjectA, TypeA); });
   return text;
+}
+
+bool Captions::AreAutomatic() const {
+  const auto& types = mState.autoObjectCaption;
+  return std::any_of(types.begin(), types.end(), IsAutomatic);
 }
 
 void Captions::ApplyAutoCaptions(const IMURTimelineObject& ObjectA, ICanvasItem& ItemA) const {
