@@ -1,7 +1,10 @@
 #include <QApplication>
 #include <QPainter>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
+#include <algorithm>
+#include <cstdlib>
 
 #include <gmock/gmock.h>
 
@@ -39,6 +42,18 @@ class Painting : public testing::Test {
     const int x = static_cast<int>(XA * ImageA.devicePixelRatio());
     const int y = static_cast<int>(200 * ImageA.devicePixelRatio());
     return ImageA.pixelColor(x - 1, y) == kCursor || ImageA.pixelColor(x, y) == kCursor;
+  }
+
+  // By colour component, as far as both pictures reach: not every platform grabs its windows at full size.
+  static int LargestDifference(const QImage& LeftA, const QImage& RightA) {
+    int largest = 0;
+    for (int y = 0; y < std::min(LeftA.height(), RightA.height()); ++y)
+      for (int x = 0; x < std::min(LeftA.width(), RightA.width()); ++x) {
+        const QRgb left = LeftA.pixel(x, y), right = RightA.pixel(x, y);
+        largest = std::max({largest, std::abs(qRed(left) - qRed(right)),
+                            std::abs(qGreen(left) - qGreen(right)), std::abs(qBlue(left) - qBlue(right))});
+      }
+    return largest;
   }
 
   void ExpectTheSample(const QImage& ImageA) const {
@@ -112,14 +127,21 @@ TEST_F(Painting, ThePictureGoesWhereThePainterIs) {
   EXPECT_EQ(image.pixelColor(660, 480), QColor(Qt::magenta));
 }
 
-TEST_F(Painting, AMovedCursorIsRepaintedInAWindow) {
+TEST_F(Painting, AWindowRepaintedPieceByPieceLooksLikeOnePaintedAtOnce) {
   widget.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
-  widget.grab();
-  widget.control()->SetCursorTime(SampleTimeline::At(245));
-  const QImage grabbed = widget.grab().toImage();
-  EXPECT_EQ(At(grabbed, 245, 200), kCursor);
-  EXPECT_NE(At(grabbed, 212, 200), kCursor);
+  const auto control = widget.control();
+  const auto canvas = control->Collaborators().canvas;
+  for (int step = 0; step < 40; ++step) {
+    control->SetCursorTime(SampleTimeline::At(7.3 * step));
+    canvas->Graphic(u"Chase")->SetBackColor(static_cast<OleColor>(step * 0x050301));
+    sample.timeline->Item(u"Note 2")->SetDuration(100 - step * 1.7);
+    QCoreApplication::processEvents();
+  }
+  const QImage onScreen = widget.screen()->grabWindow(widget.winId()).toImage();
+  const QImage atOnce = widget.renderToImage({600, 400}, widget.devicePixelRatioF());
+  ASSERT_FALSE(onScreen.isNull());
+  EXPECT_LE(LargestDifference(onScreen, atOnce), 3);  // of 255, where smooth edges meet the seams
 }
 
 // Notes which parts of a window were painted.
