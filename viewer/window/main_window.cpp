@@ -75,6 +75,7 @@ MainWindow::MainWindow(QSettings& SettingsA)
   mStack->addWidget(mEmpty);
   mStack->addWidget(mPage);
   setCentralWidget(mStack);
+  mStack->setFocus();
   addDockWidget(Qt::RightDockWidgetArea, mPanel);
   mZoom->setParent(this);
   mZoom->SetEnabled(false);

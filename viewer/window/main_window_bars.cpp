@@ -22,6 +22,7 @@ namespace {
 
 constexpr QSize kUsualSize(1280, 720);
 constexpr QSize kToolIcon(20, 20);
+constexpr int kGap = 8;
 constexpr QLatin1String kGeometry("geometry"), kBars("bars"), kStatusBar("statusBar");
 
 QString Kbd(const char* KeysA) {
@@ -131,6 +132,8 @@ void MainWindow::MakeStatusBar() {
   mSelected->setObjectName(QStringLiteral("selectedName"));
   mCount->setObjectName(QStringLiteral("objectCount"));
   mSelected->setTextFormat(Qt::PlainText);
+  mSelected->setContentsMargins(kGap, 0, 0, 0);
+  mCount->setContentsMargins(2 * kGap, 0, kGap, 0);
   statusBar()->addWidget(mSelected, 1);
   statusBar()->addPermanentWidget(new LoadProgress(mSession));
   statusBar()->addPermanentWidget(mPointer);

@@ -9,7 +9,8 @@
 namespace mur::viewer {
 namespace {
 
-constexpr QSize kUsualSize(300, 400);
+constexpr QSize kUsualSize(340, 400);
+constexpr int kMargin = 8;
 
 // A dump cannot list more children than 16 bits can count.
 QString DumpOf(const IMURTimelineObject& ObjectA) {
@@ -37,6 +38,7 @@ SelectionPanel::SelectionPanel(QWidget* ParentA)
   mText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   mText->setLineWrapMode(QPlainTextEdit::NoWrap);
   mText->setFrameShape(QFrame::NoFrame);
+  mText->document()->setDocumentMargin(kMargin);
   mText->setPlaceholderText(QStringLiteral("Click a bar to see its object here."));
   setWidget(mText);
 }

@@ -1,5 +1,7 @@
 #include "viewer/window/time_texts.h"
 
+#include <cmath>
+
 #include <murtimeline/qt/conversions.h>
 #include <murtimeline/render/companions/time_text.h>
 
@@ -16,7 +18,9 @@ QString FileTimeText(const LoadedFile& FileA, Date TimeA) {
 }
 
 QString WorldTimeText(Date TimeA) {
-  return qt::ToQDateTime(TimeA).toString(QStringLiteral("yyyy-MM-dd  HH:mm:ss.zzz"));
+  const bool isDayZero = std::floor(TimeA.Days()) == 0;
+  return qt::ToQDateTime(TimeA).toString(isDayZero ? QStringLiteral("HH:mm:ss.zzz")
+                                                   : QStringLiteral("yyyy-MM-dd  HH:mm:ss.zzz"));
 }
 
 }  // namespace mur::viewer

@@ -10,7 +10,7 @@ namespace mur::viewer {
 /// seconds to the microsecond.
 QString FileTimeText(const LoadedFile& FileA, Date TimeA);
 
-/// Date and wall clock to the millisecond.
+/// Date and wall clock to the millisecond; the clock alone on day zero.
 QString WorldTimeText(Date TimeA);
 
 }  // namespace mur::viewer

@@ -19,10 +19,11 @@ bool IsDark(const QPalette& PaletteA) {
   return PaletteA.color(QPalette::Window).lightness() < PaletteA.color(QPalette::WindowText).lightness();
 }
 
-// Bars get their tool tips when something about them changes; those of a filled time line have to be asked
-// for.
-void RefreshToolTips(MURTimelineRender& ControlA) {
-  ControlA.SetFormatStyle(ControlA.FormatStyle());
+// A bar gets its tool tip when its object reports a change, which those of a filled time line did before they
+// had bars: each reports its tag once more.
+void MakeToolTips(const CMURTimeline& TimelineA) {
+  auto members = TimelineA.NewEnum();
+  while (const Ref<IMURTimelineObject> member = members.Next()) member->SetTag(member->Tag());
 }
 
 }  // namespace
@@ -50,7 +51,7 @@ void TimelinePage::Show(OpenDocument DocumentA, const VisibleRange& RangeA) {
   control->SetTimeline(mDocument->timeline.Get());
   control->ShowMembers();
   PresentFile(*control, mDocument->file, RangeA);
-  RefreshToolTips(*control);
+  MakeToolTips(*mDocument->timeline);
 }
 
 void TimelinePage::ColorCanvas() {
