@@ -12,7 +12,7 @@ namespace mur::qt {
 /// rounded to whole pixels, for which fonts are made sharp.
 class MUR_API TextMeasures {
  public:
-  explicit TextMeasures(QFont FontA) : mFont(std::move(FontA)) {}
+  explicit TextMeasures(const QFont& FontA) : mFont(FontA) {}
 
   /// Another family; forgets everything.
   void SetFont(const QFont& FontA);
