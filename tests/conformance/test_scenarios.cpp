@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/conformance/core_driver_model.h"
+#include "tests/conformance/core_driver_render.h"
 #include "tests/conformance/scenario_player.h"
 
 namespace mur::test {
@@ -18,7 +18,7 @@ namespace {
 class Conformance : public testing::TestWithParam<Section> {};
 
 TEST_P(Conformance, HoldsForTheCore) {
-  CoreDriver driver;
+  CoreRenderDriver driver;
   PlaySection(GetParam(), driver, [](const std::string& file, int line, const std::string& message) {
     ADD_FAILURE_AT(file.c_str(), line) << message;
   });

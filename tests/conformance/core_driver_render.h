@@ -1,0 +1,32 @@
+#pragma once
+
+#include <list>
+
+#include <murtimeline/render/port/scripted_host.h>
+#include <murtimeline/render/timeline_render.h>
+
+#include "tests/conformance/core_driver_model.h"
+
+namespace mur::test {
+
+/// Plays scenarios on the C++ core: the object model and controls on hosts in memory.
+class CoreRenderDriver final : public CoreDriver {
+ public:
+  ~CoreRenderDriver() override;
+
+  Ref<Object> Create(const std::string& ClassA) override;
+  void Listen(const Ref<Object>& ObjectA, const Listener& ListenerA) override;
+  void Resize(const Ref<Object>& ObjectA, double WidthA, double HeightA) override;
+
+ protected:
+  const binding::Members* MembersOf(const Object& ObjectA) const override;
+
+ private:
+  struct Control {
+    ScriptedHost host;
+    Ref<MURTimelineRender> control;
+  };
+  std::list<Control> mControls;
+};
+
+}  // namespace mur::test
