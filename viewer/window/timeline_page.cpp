@@ -7,13 +7,11 @@
 #include <murtimeline/qt/event_guard.h>
 #include <murtimeline/qt/timeline_widget.h>
 
-#include "viewer/palette.h"
+#include "viewer/window/scheme.h"
 #include "viewer/window/time_scroll_bar.h"
 
 namespace mur::viewer {
 namespace {
-
-constexpr OleColor kDarkCanvasColor = FromRgb(0x262A31);
 
 bool IsDark(const QPalette& PaletteA) {
   return PaletteA.color(QPalette::Window).lightness() < PaletteA.color(QPalette::WindowText).lightness();
@@ -36,7 +34,7 @@ TimelinePage::TimelinePage() : mWidget(new qt::TimelineWidget), mScrollBar(new T
   column->addWidget(mScrollBar);
   mWidget->setNavigationEnabled(true);
   PrepareControl(*mWidget->control());
-  ColorCanvas();
+  FollowPalette();
 }
 
 TimelinePage::~TimelinePage() {
@@ -54,14 +52,13 @@ void TimelinePage::Show(OpenDocument DocumentA, const VisibleRange& RangeA) {
   MakeToolTips(*mDocument->timeline);
 }
 
-void TimelinePage::ColorCanvas() {
-  const OleColor color = IsDark(palette()) ? kDarkCanvasColor : kCanvasColor;
-  mWidget->control()->Collaborators().canvas->SetBackColor(color);
+void TimelinePage::FollowPalette() {
+  ApplyScheme(*mWidget->control(), IsDark(palette()) ? kDarkScheme : kLightScheme);
 }
 
 void TimelinePage::changeEvent(QEvent* EventA) {
   QWidget::changeEvent(EventA);
-  if (EventA->type() == QEvent::PaletteChange) qt::GuardEvent([this] { ColorCanvas(); });
+  if (EventA->type() == QEvent::PaletteChange) qt::GuardEvent([this] { FollowPalette(); });
 }
 
 void TimelinePage::resizeEvent(QResizeEvent* EventA) {

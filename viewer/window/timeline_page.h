@@ -33,7 +33,7 @@ class TimelinePage final : public QWidget {
   void resizeEvent(QResizeEvent* EventA) override;
 
  private:
-  void ColorCanvas();
+  void FollowPalette();
 
   qt::TimelineWidget* mWidget;
   TimeScrollBar* mScrollBar;

@@ -6,8 +6,8 @@
 #include <QTest>
 
 #include "tests/viewer/window/window_test.h"
-#include "viewer/window/empty_state.h"
 #include "viewer/window/main_window.h"
+#include "viewer/window/scheme.h"
 
 namespace mur::viewer::test {
 namespace {
@@ -165,6 +165,17 @@ TEST_F(Window, SaysThatAPictureCannotBeWritten) {
   window->OpenFile(WriteTwoCues());
   window->ExportTo(PathOf(QStringLiteral("none/out.png")));
   EXPECT_TRUE(TakeMessage().startsWith(QStringLiteral("The picture cannot be exported.|cannot write ")));
+}
+
+TEST_F(Window, TurnsDarkWithItsPalette) {
+  window->OpenFile(WriteTwoCues());
+  const OleColor light = Bar(u"Subtitles")->BackColor(), cue = Bar(kFirst)->BackColor();
+  window->setPalette(QPalette(QColor(50, 50, 50)));
+  EXPECT_EQ(Control().Collaborators().canvas->BackColor(), kDarkScheme.canvas);
+  EXPECT_EQ(Bar(u"Subtitles")->BackColor(), kDarkScheme.track.back);
+  EXPECT_EQ(Bar(kFirst)->BackColor(), cue);
+  window->setPalette(QPalette(QColor(230, 230, 230)));
+  EXPECT_EQ(Bar(u"Subtitles")->BackColor(), light);
 }
 
 TEST_F(Window, OpensWhereItWasClosed) {
