@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include <murtimeline/automation/error.h>
 #include <murtimeline/model/subtree_depth.h>
 
 namespace mur {
@@ -15,12 +14,6 @@ std::uint64_t ShapeRevision() noexcept {
 
 void MoveShapeRevision() noexcept {
   ++tShapeRevision;
-}
-
-std::optional<int> SubtreeDepth::Known() const {
-  if (mDepth == kUnknown) return std::nullopt;
-  if (mDepth >= kTooDeep) throw AutomationError(ErrorCode::Overflow);
-  return mDepth;
 }
 
 void SubtreeDepth::AddChild(TimelineNode& ChildA) {
@@ -44,9 +37,13 @@ int SubtreeDepth::DepthOf(TimelineNode& NodeA) {
 }
 
 void SubtreeDepth::CountChild(int DepthA, int ByA) {
-  const auto entry = mChildrenByDepth.try_emplace(DepthA, 0).first;
-  entry->second += static_cast<std::size_t>(ByA);
-  if (entry->second == 0) mChildrenByDepth.erase(entry);
+  auto level =
+      std::find_if(mLevels.begin(), mLevels.end(), [=](Level other) { return other.depth == DepthA; });
+  if (level == mLevels.end()) level = mLevels.insert(level, {DepthA, 0});
+  level->children += static_cast<std::size_t>(ByA);
+  if (level->children > 0) return;
+  *level = mLevels.back();
+  mLevels.pop_back();
 }
 
 // Changes are taken in the order in which they arose, so that each link's depths follow one another.
@@ -70,9 +67,12 @@ void SubtreeDepth::Refresh(std::deque<Change>& PendingA) {
 }
 
 int SubtreeDepth::Compute() const {
-  if (mChildrenByDepth.empty()) return 1;
-  if (mChildrenByDepth.contains(kUnknown)) return kUnknown;
-  return std::min(mChildrenByDepth.rbegin()->first + 1, kTooDeep);
+  int deepest = 0;
+  for (const Level& level : mLevels) {
+    if (level.depth == kUnknown) return kUnknown;
+    deepest = std::max(deepest, level.depth);
+  }
+  return deepest < kDeepestKept ? deepest + 1 : kUnknown;
 }
 
 }  // namespace mur

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <deque>
-#include <map>
 #include <optional>
 #include <vector>
 
@@ -13,8 +12,9 @@ namespace mur {
 /// The depth of a group's subtree, kept right through every change below it, so that a layout need not walk.
 ///
 /// Each group counts its children by their depths and passes a change of its own depth on to the groups that
-/// hold it. A child of a host's own class has no known depth, nor has anything above it. A group that
-/// contains itself grows past every depth and is then simply too deep.
+/// hold it. A child of a host's own class has no known depth, nor has anything above it; nor has what is
+/// deeper than kDeepestKept, so that a change spreads over so many levels at most, and a group that contains
+/// itself is soon found to be one of those.
 class MUR_API SubtreeDepth {
  public:
   /// `OwnerA` is told (by OnDepthChanged) when the depth changed.
@@ -30,16 +30,21 @@ class MUR_API SubtreeDepth {
   SubtreeDepth(const SubtreeDepth&) = delete;
   SubtreeDepth& operator=(const SubtreeDepth&) = delete;
 
-  /// 1 for a group without children; none when it cannot be known. Throws Overflow beyond 32,767.
-  std::optional<int> Known() const;
+  static constexpr int kDeepestKept = 1000;
+
+  /// 1 for a group without children; none when it is not known.
+  std::optional<int> Known() const { return mDepth == kUnknown ? std::nullopt : std::optional(mDepth); }
 
   void AddChild(TimelineNode& ChildA);
   void RemoveChild(TimelineNode& ChildA);
 
  private:
   static constexpr int kUnknown = 0;
-  static constexpr int kTooDeep = 32768;
 
+  struct Level {
+    int depth;
+    std::size_t children;
+  };
   struct Change {
     SubtreeDepth* holder;
     int from, to;
@@ -52,7 +57,7 @@ class MUR_API SubtreeDepth {
   void Spread();
 
   Owner& mOwner;
-  std::map<int, std::size_t> mChildrenByDepth;
+  std::vector<Level> mLevels;           // the depths that occur among the children, in no order: they are few
   std::vector<SubtreeDepth*> mHolders;  // once for each time that a group holds this one
   int mDepth = 1;
 };

@@ -39,8 +39,7 @@ class MUR_API TimelineNode : public Object {
   virtual void SetKeyText(const SharedText& KeyA) = 0;
   /// The number of children beyond what 16 bits can say.
   virtual std::size_t ChildCount() const = 0;
-  /// 1 + the depth of the deepest child, for classes that keep it; none where one must walk. Throws Overflow
-  /// beyond 32,767.
+  /// 1 + the depth of the deepest child, for classes that keep it; none where one must walk.
   virtual std::optional<int> KnownSubtreeDepth() const { return std::nullopt; }
   /// The book-keeping of a class that keeps its depth; none for all others.
   virtual SubtreeDepth* DepthNode() { return nullptr; }

@@ -47,8 +47,7 @@ bool TrackLayout::WatchUpwards(const Ref<IMURTimelineObject>& ObjectA) const {
     bool willSay = true;
     for (Ref<IMURTimelineObject> object = ObjectA; object && willSay; object = object->Parent())
       willSay = object->WatchShape();
-    watched = willSay;
-    watched = willSay && root->KnownSubtreeDepth().has_value();  // throws for one that is known as too deep
+    watched = willSay && root->KnownSubtreeDepth().has_value();
   });
   return watched;
 }

@@ -73,14 +73,32 @@ TEST_F(Nesting, MovesTheShapeRevisionForWatchedGroupsOnly) {
   EXPECT_GT(ShapeRevision(), before);
 }
 
-TEST_F(Nesting, AGroupAddedToItselfIsItsOwnParentAndTooDeepToSay) {
+TEST_F(Nesting, AGroupAddedToItselfIsItsOwnParentAndOfUnknownDepth) {
   const auto group = objects.Group(u"G");
   group->Add(group, u"G");
   EXPECT_EQ(group->Parent(), group);
   EXPECT_EQ(group->Count(), 1);
-  EXPECT_THROW(group->KnownSubtreeDepth(), AutomationError);
+  EXPECT_EQ(group->KnownSubtreeDepth(), std::nullopt);
   group->Remove(u"G");
   EXPECT_EQ(group->KnownSubtreeDepth(), 1);
+}
+
+TEST_F(Nesting, DepthsBeyondWhatIsKeptAreUnknownAndKnownAgainWhenTheChainIsCut) {
+  const auto chain = Chain(SubtreeDepth::kDeepestKept + 1, true);
+  EXPECT_EQ(chain[0]->KnownSubtreeDepth(), std::nullopt);
+  EXPECT_EQ(chain[1]->KnownSubtreeDepth(), SubtreeDepth::kDeepestKept);
+  chain[1]->Remove(chain[2]->Key());
+  EXPECT_EQ(chain[0]->KnownSubtreeDepth(), 2);
+}
+
+TEST_F(Nesting, AHundredThousandLevelsGrowFromTheTopDown) {
+  Ref<IMURTimelineObject> bottom = objects.Group(u"");
+  for (int level = 2; level <= 100'000; ++level) {
+    const auto below = objects.Group(u"");
+    bottom->Add(below, u"below");
+    bottom = below;
+  }
+  EXPECT_EQ(bottom->KnownSubtreeDepth(), 1);
 }
 
 TEST_F(Nesting, AMovedGroupThatContainsItselfEndsWithoutAnError) {
@@ -99,7 +117,7 @@ TEST_F(Nesting, AGroupAddedToItsOwnDescendantMovesWithoutAnErrorAndCanBeFreed) {
   chain[4]->Add(chain[0], u"top");
   chain[0]->SetWorldTimeT0(Date::Unchecked(1));
   chain[2]->SetWorldTimeT0(Date::Unchecked(2));
-  EXPECT_THROW(chain[0]->KnownSubtreeDepth(), AutomationError);
+  EXPECT_EQ(chain[0]->KnownSubtreeDepth(), std::nullopt);
   EXPECT_THROW(chain[0]->AsString(u""), AutomationError);
   chain[4]->Remove(u"top");
   EXPECT_EQ(chain[0]->KnownSubtreeDepth(), 5);
@@ -121,7 +139,7 @@ TEST_F(Nesting, AHundredThousandLevelsAreBuiltMovedAndDestroyed) {
   chain.front()->SetWorldTimeT0(Date::Unchecked(1));
   EXPECT_EQ(chain.front()->WorldTimeT0(), Date::Unchecked(1));
   EXPECT_EQ(chain[1]->WorldTimeT0(), Date::Unchecked(1));
-  EXPECT_THROW(chain.front()->KnownSubtreeDepth(), AutomationError);
+  EXPECT_EQ(chain.front()->KnownSubtreeDepth(), std::nullopt);
   EXPECT_THROW(chain.front()->AsString(u""), AutomationError);
 }
 
