@@ -12,6 +12,7 @@ namespace mur::viewer {
 namespace {
 
 constexpr int kPatience = 200;  // milliseconds
+constexpr int kWidestCaption = 300;
 constexpr int kBarWidth = 180;
 constexpr int kBarHeight = 12;
 
@@ -41,7 +42,8 @@ LoadProgress::LoadProgress(LoadSession& SessionA) : mCaption(new QLabel), mBar(n
 }
 
 void LoadProgress::Begin(const QString& PathA) {
-  mCaption->setText(QStringLiteral("Loading %1").arg(QFileInfo(PathA).fileName()));
+  const QString caption = QStringLiteral("Loading %1").arg(QFileInfo(PathA).fileName());
+  mCaption->setText(mCaption->fontMetrics().elidedText(caption, Qt::ElideMiddle, kWidestCaption));
   mBar->setValue(0);
   mTime.start();
 }

@@ -133,13 +133,13 @@ void MainWindow::Show(OpenDocument DocumentA, const VisibleRange& RangeA) {
 void MainWindow::Select(const IMURTimelineObject* ObjectA) {
   mHighlight.Mark(ObjectA);
   mPanel->Show(ObjectA);
-  mSelected->setText(ObjectA ? qt::ToQString(ObjectA->Tag()) : QString());
+  mSelected->setText(ObjectA ? qt::ToQString(ObjectA->Tag()).simplified() : QString());
 }
 
 void MainWindow::Complain(const QString& HeadlineA, const QString& LineA) {
-  auto* box = new QMessageBox(QMessageBox::Warning, ProgramName(), HeadlineA, QMessageBox::Ok, this);
+  auto* box = new QMessageBox(QMessageBox::Warning, ProgramName(), HeadlineA + QStringLiteral("\n\n") + LineA,
+                              QMessageBox::Ok, this);
   box->setAttribute(Qt::WA_DeleteOnClose);
-  box->setInformativeText(LineA);
   box->setTextFormat(Qt::PlainText);
   box->open();
 }

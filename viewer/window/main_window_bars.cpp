@@ -133,6 +133,7 @@ void MainWindow::MakeStatusBar() {
   mCount->setObjectName(QStringLiteral("objectCount"));
   mSelected->setTextFormat(Qt::PlainText);
   mSelected->setContentsMargins(kGap, 0, 0, 0);
+  mSelected->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // long names widen no window
   mCount->setContentsMargins(2 * kGap, 0, kGap, 0);
   statusBar()->addWidget(mSelected, 1);
   statusBar()->addPermanentWidget(new LoadProgress(mSession));

@@ -73,9 +73,9 @@ TEST_F(Window, KeepsWhatItShowsWhenAFileIsDamaged) {
   window->OpenFile(two);
   window->OpenFile(Write(QStringLiteral("cut.otio"), "{\n\"OTIO_SCHEMA\": "));
   const QString message = TakeMessage();
-  EXPECT_TRUE(message.startsWith(QStringLiteral("cut.otio cannot be read.|line 2, column ")))
+  EXPECT_TRUE(message.startsWith(QStringLiteral("cut.otio cannot be read.\n\nline 2, column ")))
       << message.toStdString();
-  EXPECT_EQ(message.count(QLatin1Char('\n')), 0);
+  EXPECT_EQ(message.count(QLatin1Char('\n')), 2);
   EXPECT_EQ(window->windowTitle(), QStringLiteral("two.vtt \u2014 MURTimeline Viewer"));
   EXPECT_TRUE(Bar(kFirst));
   EXPECT_EQ(RecentFiles(settings).Paths(), QStringList({two}));
@@ -83,7 +83,7 @@ TEST_F(Window, KeepsWhatItShowsWhenAFileIsDamaged) {
 
 TEST_F(Window, SaysThatAFileIsMissing) {
   window->OpenFile(PathOf(QStringLiteral("none.vtt")));
-  EXPECT_TRUE(TakeMessage().startsWith(QStringLiteral("none.vtt cannot be read.|byte 0: ")));
+  EXPECT_TRUE(TakeMessage().startsWith(QStringLiteral("none.vtt cannot be read.\n\nbyte 0: ")));
   EXPECT_FALSE(Timeline().isVisible());
 }
 
@@ -103,6 +103,17 @@ TEST_F(Window, ShowsWhatAClickedBarSaysOfItself) {
   Click(MiddleOf(*Bar(kFirst)));
   EXPECT_TRUE(Dump().startsWith(QStringLiteral("CMURTimelineScalar: First"))) << Dump().toStdString();
   EXPECT_EQ(LabelText("selectedName"), QStringLiteral("First"));
+}
+
+TEST_F(Window, NamesTheSelectedObjectInOneLineThatWidensNothing) {
+  const QByteArray longLine(5000, 'w');
+  window->OpenFile(Write(QStringLiteral("long.vtt"), "WEBVTT\n\n00:00.000 --> 00:10.000\nTwo\n" + longLine));
+  const int width = window->width();
+  constexpr int kCue = 3;  // after the cursor and the group
+  Click(MiddleOf(*Control().Collaborators().canvas->Graphic(kCue)));
+  EXPECT_EQ(LabelText("selectedName"), QStringLiteral("Two ") + QString::fromLatin1(longLine));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(window->width(), width);
 }
 
 TEST_F(Window, HighlightsTheClickedBarUntilAnotherIsClicked) {
@@ -164,7 +175,7 @@ TEST_F(Window, ExportsThePictureThatTheSuffixAsksFor) {
 TEST_F(Window, SaysThatAPictureCannotBeWritten) {
   window->OpenFile(WriteTwoCues());
   window->ExportTo(PathOf(QStringLiteral("none/out.png")));
-  EXPECT_TRUE(TakeMessage().startsWith(QStringLiteral("The picture cannot be exported.|cannot write ")));
+  EXPECT_TRUE(TakeMessage().startsWith(QStringLiteral("The picture cannot be exported.\n\ncannot write ")));
 }
 
 TEST_F(Window, TurnsDarkWithItsPalette) {

@@ -1,4 +1,4 @@
-#include <cmath>
+#include <QTest>
 
 #include "tests/viewer/window/window_test.h"
 #include "viewer/window/time_scroll_bar.h"
@@ -55,6 +55,17 @@ TEST_F(MovingAbout, WheelZoomsAtThePointer) {
   TurnWheel({200, 300}, 360);
   EXPECT_NEAR(SecondsAt(200), before, kMillisecond);
   EXPECT_NEAR(Control().Duration(), duration / 2, kMillisecond);
+}
+
+TEST_F(MovingAbout, DraggingTheBackgroundPans) {
+  ShowTenthsFrom(10);
+  const int y = Timeline().height() - 5;
+  QWidget* canvas = Timeline().childAt(200, y);
+  const auto at = [&](int x) { return canvas->mapFrom(&Timeline(), QPoint(x, y)); };
+  QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, at(200));
+  MovePointer({150, y});
+  QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, at(150));
+  EXPECT_NEAR(SecondsAt(0), 15, kMillisecond);
 }
 
 TEST_F(MovingAbout, ScrollBarCannotMoveWhileEverythingShows) {

@@ -67,7 +67,7 @@ QString WindowTest::LabelText(const char* NameA) const {
 QString WindowTest::TakeMessage() const {
   auto* box = window->findChild<QMessageBox*>();
   if (!box) return {};
-  const QString message = box->text() + QLatin1Char('|') + box->informativeText();
+  const QString message = box->text();
   delete box;
   return message;
 }
