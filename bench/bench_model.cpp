@@ -7,33 +7,38 @@
 namespace mur::bench {
 namespace {
 
-// Visits every index below `CountA` once, in an order without locality.
-template <class Visit>
-void ForEachScattered(int CountA, Visit&& VisitA) {
+// In which order the members are read: one after the other, or without any locality, so that next to nothing
+// is in a cache.
+enum class Order { InTurn, Scattered };
+
+std::vector<int> Indices(int CountA, Order OrderA) {
   constexpr long long kStep = 7'368'787;  // a prime that divides no size
-  for (long long i = 0, at = 0; i < CountA; ++i, at = (at + kStep) % CountA) VisitA(static_cast<int>(at));
+  std::vector<int> indices;
+  indices.reserve(static_cast<std::size_t>(CountA));
+  for (long long i = 0, at = 0; i < CountA; ++i, at = (at + kStep) % CountA)
+    indices.push_back(static_cast<int>(OrderA == Order::InTurn ? i : at));
+  return indices;
 }
 
-void ReadByKey(benchmark::State& StateA) {
+void ReadByKey(benchmark::State& StateA, Order OrderA) {
   const int count = static_cast<int>(StateA.range(0));
   TimelineSample& sample = FilledTimeline(count);
-  for (auto _ : StateA) {
-    std::vector<String> keys;
-    ForEachScattered(
-        count, [&](int index) { keys.push_back(sample.scalars[static_cast<std::size_t>(index)]->Key()); });
+  std::vector<String> keys;
+  for (const int index : Indices(count, OrderA))
+    keys.push_back(sample.scalars[static_cast<std::size_t>(index)]->Key());
+  for (auto _ : StateA)
     Measure(StateA, count, [&] {
       for (const String& key : keys) benchmark::DoNotOptimize(sample.timeline->ItemByKey(key).Get());
     });
-  }
 }
 
-void ReadByPosition(benchmark::State& StateA) {
+void ReadByPosition(benchmark::State& StateA, Order OrderA) {
   const int count = static_cast<int>(StateA.range(0));
   TimelineSample& sample = FilledTimeline(count);
+  const std::vector<int> indices = Indices(count, OrderA);
   for (auto _ : StateA)
     Measure(StateA, count, [&] {
-      ForEachScattered(count,
-                       [&](int index) { benchmark::DoNotOptimize(sample.timeline->Item(index + 1).Get()); });
+      for (const int index : indices) benchmark::DoNotOptimize(sample.timeline->Item(index + 1).Get());
     });
 }
 
@@ -95,8 +100,14 @@ void MoveParentOfLockedMembers(benchmark::State& StateA) {
   for (const String& key : keys) sample.timeline->Remove(key);
 }
 
-BENCHMARK(ReadByKey)->Name("read a member by key")->Apply(Sizes);
-BENCHMARK(ReadByPosition)->Name("read a member by position")->Apply(Sizes);
+BENCHMARK_CAPTURE(ReadByKey, InTurn, Order::InTurn)->Name("read a member by key, in turn")->Apply(Sizes);
+BENCHMARK_CAPTURE(ReadByPosition, InTurn, Order::InTurn)
+    ->Name("read a member by position, in turn")
+    ->Apply(Sizes);
+BENCHMARK_CAPTURE(ReadByKey, Scattered, Order::Scattered)->Name("the same by key, scattered")->Apply(Sizes);
+BENCHMARK_CAPTURE(ReadByPosition, Scattered, Order::Scattered)
+    ->Name("the same by position, scattered")
+    ->Apply(Sizes);
 BENCHMARK(MoveParentOfLockedChildren)->Name("move a parent: each of 30,000 locked children")->Apply(Sizes);
 BENCHMARK(MoveParentOfLockedMembers)->Name("the same, each reporting and with a bar")->Apply(Sizes);
 BENCHMARK(PutReportedToOneListener)

@@ -40,7 +40,7 @@ class MUR_API KeyedSequence {
   std::size_t SlotOfKey(StringView KeyA) const {
     // A look-up often follows that of the entry before: walks then cost no hashing.
     for (const std::size_t guess : {mFinger + 1, mFinger})
-      if (guess < mEntries.size() && mLive.IsLive(guess) && KeyOf()(mEntries[guess]) == KeyA)
+      if (guess < mEntries.size() && mLive.IsLive(guess) && IsSameText(KeyOf()(mEntries[guess]), KeyA))
         return mFinger = guess;
     const std::size_t slot = FindHashed(KeyA, HashIgnoringCase(KeyA));
     if (slot != kNone) mFinger = slot;

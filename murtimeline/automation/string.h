@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,13 @@ namespace mur {
 /// Text becomes UTF-8 only at the edges (logs, tests, files).
 using String = std::u16string;
 using StringView = std::u16string_view;
+
+/// Whether two texts are the same, unit by unit. (The comparison of the standard library goes unit by unit for
+/// 16-bit text; this one does not.)
+inline bool IsSameText(StringView LeftA, StringView RightA) noexcept {
+  return LeftA.size() == RightA.size() &&
+         (LeftA.empty() || std::memcmp(LeftA.data(), RightA.data(), LeftA.size() * sizeof(char16_t)) == 0);
+}
 
 /// UTF-8 for `TextA`; a lone surrogate becomes U+FFFD.
 MUR_API std::string ToUtf8(StringView TextA);

@@ -35,7 +35,7 @@ void CMURTimelineGroup::Add(const Ref<IMURTimelineObject>& ChildA, StringView Ke
     RequireStackSpace();
     if (!child || !mChildren) return;
     SharedText key = child->KeyText();  // the very key, more often than not
-    if (key.View() != KeyA) key = SharedText(KeyA);
+    if (!IsSameText(key.View(), KeyA)) key = SharedText(KeyA);
     if (!mChildren->Add(child, key)) return;
     mDepth.AddChild(*child);
     child->SetKeyText(key);

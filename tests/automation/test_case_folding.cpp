@@ -34,10 +34,16 @@ TEST(CaseFolding, TellsWhichTextsAreEqualButForTheirCase) {
   }
 }
 
-TEST(CaseFolding, SpreadsTheHashesOfGeneratedKeys) {
-  std::vector<int> buckets(64);
-  for (int i = 0; i < 6400; ++i) ++buckets[HashIgnoringCase(u"Key_" + FromAscii(std::to_string(i))) % 64];
-  for (const int count : buckets) EXPECT_NEAR(count, 100, 60);
+TEST(CaseFolding, HashesKeysThatDifferInTheirLastCharacterSideBySide) {
+  EXPECT_EQ(HashIgnoringCase(u"Key_000124"), HashIgnoringCase(u"Key_000123") + 1);
+  EXPECT_EQ(HashIgnoringCase(u"KEY_00012b"), HashIgnoringCase(u"Key_00012A") + 1);
+}
+
+TEST(CaseFolding, SpreadsTheHashesOfGeneratedKeysThatDifferInMore) {
+  std::array<int, 100> counts{};
+  for (int ten = 0; ten < 10'000; ++ten)
+    ++counts[HashIgnoringCase(FromAscii("Key_" + std::to_string(10 * ten))) / 8 % counts.size()];
+  for (const int count : counts) EXPECT_NEAR(count, 100, 60);
 }
 
 TEST(CaseFolding, FindsATextInAnotherInAnyCase) {
