@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <functional>
 #include <map>
 #include <string>
@@ -8,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include <murtimeline/automation/color.h>
 #include <murtimeline/automation/error.h>
 #include <murtimeline/automation/narrow.h>
 #include <murtimeline/automation/object.h>
@@ -38,18 +40,31 @@ T From(const Variant& ValueA) {
     if (const bool* truth = ValueA.As<bool>()) return *truth;
   } else if constexpr (std::is_same_v<T, Date>) {
     if (const auto days = ValueA.Number()) return Date::Unchecked(*days);
+  } else if constexpr (std::is_same_v<T, OleColor>) {
+    if (const auto number = ValueA.Number()) return std::bit_cast<OleColor>(Narrow<std::int32_t>(*number));
   } else if constexpr (std::is_enum_v<T>) {
     if (const auto number = ValueA.Number()) return static_cast<T>(Narrow<std::int32_t>(*number));
   } else if constexpr (std::is_integral_v<T>) {
     if (const auto number = ValueA.Number()) return Narrow<T>(*number);
-  } else if constexpr (std::is_floating_point_v<T>) {
-    if (const auto number = ValueA.Number()) return static_cast<T>(*number);
+  } else if constexpr (std::is_same_v<T, float>) {
+    if (const auto number = ValueA.Number()) return NarrowToSingle(*number);
+  } else if constexpr (std::is_same_v<T, double>) {
+    if (const auto number = ValueA.Number()) return *number;
   } else if (const auto* object = ValueA.As<Ref<Object>>()) {
     using Target = std::remove_reference_t<decltype(*std::declval<T>())>;
     if (!*object) return {};
     if (auto* target = dynamic_cast<Target*>(object->Get())) return T(target);
   }
   throw AutomationError(ErrorCode::TypeMismatch);
+}
+
+/// A result as an automation value: a colour is a Long of the same bits.
+template <class T>
+Variant To(T ValueA) {
+  if constexpr (std::is_same_v<T, OleColor>)
+    return Variant(std::bit_cast<std::int32_t>(ValueA));
+  else
+    return Variant(std::move(ValueA));
 }
 
 /// How an argument is held during a call: views as texts, references as values.
@@ -70,7 +85,7 @@ Call BindAs(Method MethodA, const Arguments& DefaultsA) {
       if constexpr (std::is_void_v<Result>)
         return (target.*MethodA)(std::get<Index>(held)...), Variant();
       else
-        return Variant((target.*MethodA)(std::get<Index>(held)...));
+        return To((target.*MethodA)(std::get<Index>(held)...));
     }
     (std::index_sequence_for<Parameters...>());
   };

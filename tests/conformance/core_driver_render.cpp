@@ -28,12 +28,23 @@ const Members& ControlMembers() {
       {"DurationFormatStyle", {Bind(&T::DurationFormatStyle), Bind(&T::SetDurationFormatStyle)}},
       {"FormatString", {Bind(&T::FormatString), Bind(&T::SetFormatString)}},
       {"FormatStyle", {Bind(&T::FormatStyle), Bind(&T::SetFormatStyle)}},
+      {"OLEDropMode", {Bind(&T::OLEDropMode), Bind(&T::SetOLEDropMode)}},
       {"RenderConfig", {Bind(&T::RenderConfig), {}}},
       {"SelectedKey", {Bind(&T::SelectedKey), {}}},
+      {"ShowToolTips", {Bind(&T::ShowToolTips), Bind(&T::SetShowToolTips)}},
       {"TZero", {Bind(&T::TZero), Bind(&T::SetTZero)}},
+      {"TimeScaleBackColor", {Bind(&T::TimeScaleBackColor), Bind(&T::SetTimeScaleBackColor)}},
+      {"TimeScaleForeColor", {Bind(&T::TimeScaleForeColor), Bind(&T::SetTimeScaleForeColor)}},
+      {"TimeScaleFormatString", {Bind(&T::TimeScaleFormatString), Bind(&T::SetTimeScaleFormatString)}},
+      {"TimeScaleFormatStyle", {Bind(&T::TimeScaleFormatStyle), Bind(&T::SetTimeScaleFormatStyle)}},
       {"TimeScaleHeight", {Bind(&T::TimeScaleHeight), Bind(&T::SetTimeScaleHeight)}},
+      {"TimeScaleMarkerHighlightColor",
+       {Bind(&T::TimeScaleMarkerHighlightColor), Bind(&T::SetTimeScaleMarkerHighlightColor)}},
+      {"TimeScaleMarkerHighlightWidth",
+       {Bind(&T::TimeScaleMarkerHighlightWidth), Bind(&T::SetTimeScaleMarkerHighlightWidth)}},
       {"Timeline", {Bind(&T::Timeline), Bind(&T::SetTimeline)}},
       {"TimesOffsetMode", {Bind(&T::TimesOffsetMode), Bind(&T::SetTimesOffsetMode)}},
+      {"ToolTipText", {Bind(&T::ToolTipText), Bind(&T::SetToolTipText)}},
       {"TrackSeparation", {Bind(&T::TrackSeparation), Bind(&T::SetTrackSeparation)}},
       {"TrackTop", {Bind(&T::TrackTop), {}}},
       {"WorldTimeT0", {Bind(&T::WorldTimeT0), Bind(&T::SetWorldTimeT0)}},
@@ -62,8 +73,14 @@ void CoreRenderDriver::Listen(const Ref<Object>& ObjectA, const Listener& Listen
   ListenTo(control->CursorTimeChange, "CursorTimeChange", ListenerA);
   ListenTo(control->TimeScaleClick, "TimeScaleClick", ListenerA);
   ListenTo(control->TimeScaleDblClick, "TimeScaleDblClick", ListenerA);
+  ListenTo(control->TimeScaleMouseDown, "TimeScaleMouseDown", ListenerA);
+  ListenTo(control->TimeScaleMouseMove, "TimeScaleMouseMove", ListenerA);
+  ListenTo(control->TimeScaleMouseUp, "TimeScaleMouseUp", ListenerA);
   ListenTo(control->MarkerClick, "MarkerClick", ListenerA);
   ListenTo(control->MarkerDblClick, "MarkerDblClick", ListenerA);
+  ListenTo(control->MarkerMouseDown, "MarkerMouseDown", ListenerA);
+  ListenTo(control->MarkerMouseMove, "MarkerMouseMove", ListenerA);
+  ListenTo(control->MarkerMouseUp, "MarkerMouseUp", ListenerA);
 }
 
 void CoreRenderDriver::Resize(const Ref<Object>& ObjectA, double WidthA, double HeightA) {

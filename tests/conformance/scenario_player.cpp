@@ -31,6 +31,12 @@ class Player {
   }
 
  private:
+  using Arguments = ScenarioDriver::Arguments;
+  struct MetEvent {
+    std::string written;  // with the names that its objects had then
+    Arguments arguments;
+  };
+
   void Play(const Statement& StatementA) {
     switch (StatementA.kind) {
       case StatementKind::New:
@@ -45,7 +51,7 @@ class Player {
       case StatementKind::Listen:
         return mDriver.Listen(mValues.Named(StatementA.name),
                               [this](const auto& event, const auto& arguments) {
-                                mEvents.push_back(mValues.WriteEvent(event, arguments));
+                                mEvents.push_back({mValues.WriteEvent(event, arguments), arguments});
                               });
       case StatementKind::Resize:
         return mDriver.Resize(mValues.Named(StatementA.name), Number(StatementA, 0), Number(StatementA, 1));
@@ -103,9 +109,14 @@ class Player {
   }
 
   void ExpectEvents(const Statement& StatementA) {
-    std::vector<std::string> expected;
-    for (const auto& line : StatementA.expected) expected.push_back(mValues.Canonical(line));
-    Compare(StatementA, expected, std::exchange(mEvents, {}));
+    std::vector<std::string> expected, met;
+    for (const auto& event : mEvents) met.push_back(event.written);
+    for (const auto& line : StatementA.expected) {
+      const std::size_t at = expected.size();
+      expected.push_back(mValues.Canonical(line, at < mEvents.size() ? mEvents[at].arguments : Arguments()));
+    }
+    mEvents.clear();
+    Compare(StatementA, expected, met);
   }
 
   void ExpectText(const Statement& StatementA) {
@@ -138,7 +149,7 @@ class Player {
   ScenarioDriver& mDriver;
   const ScenarioFailure& mFailure;
   ScenarioValues mValues;
-  std::vector<std::string> mEvents;
+  std::vector<MetEvent> mEvents;
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "tests/conformance/scenario_values.h"
 
+#include <bit>
 #include <charconv>
 #include <cstdio>
 #include <stdexcept>
@@ -13,6 +14,7 @@ namespace mur::test {
 namespace {
 
 constexpr double kFiveSeconds = 5 / kSecondsPerDay;
+constexpr const char* kNow = "now";
 
 const std::map<std::string, Variant>& Constants() {
   static const std::map<std::string, Variant> kConstants = {
@@ -65,6 +67,15 @@ String TextOf(const std::string& WordA) {
   return FromUtf8(text);
 }
 
+// &H and up to eight hexadecimal digits: a Long of these bits, as colours are written.
+Variant LongOfWord(const std::string& WordA) {
+  std::uint32_t bits = 0;
+  const char* end = WordA.data() + WordA.size();
+  const auto [stop, error] = std::from_chars(WordA.data() + 2, end, bits, 16);
+  if (error != std::errc() || stop != end) throw std::invalid_argument("no hexadecimal number: " + WordA);
+  return std::bit_cast<std::int32_t>(bits);
+}
+
 Date DateOfWord(const std::string& WordA) {
   const std::string text = WordA.substr(1, WordA.size() - 2);
   double days = 0;
@@ -93,7 +104,8 @@ Variant ScenarioValues::Parse(const std::string& WordA) const {
   double number = 0;
   if (WordA.front() == '"') return TextOf(WordA);
   if (WordA.front() == '#') return DateOfWord(WordA);
-  if (WordA == "now") return Now();
+  if (WordA.starts_with("&H")) return LongOfWord(WordA);
+  if (WordA == kNow) return Now();
   if (ReadNumber(WordA, number)) return number;
   if (const auto constant = Constants().find(WordA); constant != Constants().end()) return constant->second;
   return Named(WordA);
@@ -122,14 +134,17 @@ std::string ScenarioValues::WriteEvent(const std::string& NameA,
   return line + ")";
 }
 
-std::string ScenarioValues::Canonical(const std::string& EventLineA) const {
+std::string ScenarioValues::Canonical(const std::string& EventLineA, const std::vector<Variant>& MetA) const {
   const std::size_t open = EventLineA.find('(');
-  const std::string inside = EventLineA.substr(open + 1, EventLineA.size() - open - 2);
-  return WriteEvent(EventLineA.substr(0, open), Parse(SplitWords(inside)));
+  const auto words = SplitWords(EventLineA.substr(open + 1, EventLineA.size() - open - 2));
+  std::vector<Variant> arguments = Parse(words);
+  for (std::size_t i = 0; i < words.size() && i < MetA.size(); ++i)
+    if (words[i] == kNow && Matches(kNow, MetA[i])) arguments[i] = MetA[i];
+  return WriteEvent(EventLineA.substr(0, open), arguments);
 }
 
 bool ScenarioValues::Matches(const std::string& WordA, const Variant& ValueA) const {
-  if (WordA == "now") {
+  if (WordA == kNow) {
     const Date* date = ValueA.As<Date>();
     return date && date->Days() > Now().Days() - kFiveSeconds && *date <= Now();
   }

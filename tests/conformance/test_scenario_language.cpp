@@ -44,6 +44,10 @@ TEST(ScenarioLanguage, ReadsAndWritesEveryKindOfValue) {
     EXPECT_EQ(values.Write(values.Parse(std::string(word))), word);
   EXPECT_EQ(values.Parse(std::string("\"say \"\"hi\"\"\"")), Variant(u"say \"hi\""));
   EXPECT_EQ(values.Write(values.Parse(std::string("murtlotMedia"))), "2");
+  EXPECT_EQ(values.Write(values.Parse(std::string("&HFF"))), "255");
+  EXPECT_EQ(values.Write(values.Parse(std::string("&H80000005"))), "-2147483643");
+  EXPECT_THROW(values.Parse(std::string("&H")), std::invalid_argument);
+  EXPECT_THROW(values.Parse(std::string("&H1FFFFFFFF")), std::invalid_argument);
   EXPECT_TRUE(values.Matches("now", Now()));
   EXPECT_FALSE(values.Matches("now", Date()));
   EXPECT_FALSE(values.Matches("0", Date()));
@@ -62,6 +66,16 @@ TEST(ScenarioLanguage, ComparesEventsWithTheirOrderAndArguments) {
   EXPECT_EQ(FailuresOf(start + "expect no events\n"),
             Failures{"x.scenario:5: \n  expected:\n    (nothing)\n  met:\n    PropertyChanged(\"Tag\")"});
   EXPECT_EQ(FailuresOf(start + "expect events\nPropertyChanged(\"Count\")\n").size(), 1u);
+}
+
+TEST(ScenarioLanguage, TakesNowInAnEventForAnyTimeOfTheLastSeconds) {
+  const ScenarioValues values;
+  const Date now = Now();
+  EXPECT_EQ(values.Canonical("Moved(now)", {now}), values.WriteEvent("Moved", {now}));
+  EXPECT_EQ(values.Canonical("Moved(#2000-01-01#)", {now}), "Moved(#2000-01-01#)");
+  EXPECT_EQ(values.Canonical("Moved()", {now}), "Moved()");
+  const Date other = Date::Unchecked(7);
+  EXPECT_NE(values.Canonical("Moved(now)", {other}), values.WriteEvent("Moved", {other}));
 }
 
 TEST(ScenarioLanguage, ComparesTextsLineByLine) {
