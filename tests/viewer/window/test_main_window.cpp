@@ -109,9 +109,9 @@ TEST_F(Window, NamesTheSelectedObjectInOneLineThatWidensNothing) {
   const QByteArray longLine(5000, 'w');
   window->OpenFile(Write(QStringLiteral("long.vtt"), "WEBVTT\n\n00:00.000 --> 00:10.000\nTwo\n" + longLine));
   const int width = window->width();
-  constexpr int kCue = 3;  // after the cursor and the group
-  Click(MiddleOf(*Control().Collaborators().canvas->Graphic(kCue)));
-  EXPECT_EQ(LabelText("selectedName"), QStringLiteral("Two ") + QString::fromLatin1(longLine));
+  const int row = static_cast<int>(Control().BarHeight() + Control().BarSeparation());
+  Click(MiddleOf(*Bar(u"Subtitles")) + QPoint(0, row));
+  EXPECT_EQ(LabelText("selectedName"), QStringLiteral("Two / ") + QString::fromLatin1(longLine));
   QCoreApplication::processEvents();
   EXPECT_EQ(window->width(), width);
 }
