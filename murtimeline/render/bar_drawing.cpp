@@ -96,17 +96,26 @@ void BarDrawing::UpdateItemLeft(const IMURTimelineObject& ObjectA, Date StartA) 
 }
 
 void BarDrawing::ReplaceAllBars() {
+  const bool automatic = mCaptions.AreAutomatic();
   auto objects = mState.timeline->NewEnum();
   while (const Ref<IMURTimelineObject> object = objects.Next()) {
-    // The captions of an object depend on neither move, so that writing them once, after both, is enough.
+    // Span, left edge and captions in one go: what each does depends on none of the others.
     ResumeNext([&] {
       const Ref<ICanvasItem> item = ItemOf(*object);
       if (!item) return;
-      ResumeNext([&] { SpanItem(*object, *item, object->Duration()); });
-      ResumeNext([&] { MoveItem(*item, object->WorldTimeT0()); });
-      mCaptions.ApplyAutoCaptions(*object, *item);
+      ResumeNext([&] { SpanAndMoveItem(*object, *item); });
+      if (automatic) mCaptions.ApplyAutoCaptions(*object, *item);
     });
   }
+}
+
+// An object that cannot tell its duration is moved all the same.
+void BarDrawing::SpanAndMoveItem(const IMURTimelineObject& ObjectA, ICanvasItem& ItemA) const {
+  const double start = ObjectA.WorldTimeT0().Seconds();
+  const float left = XOf(start);
+  std::optional<float> width;
+  ResumeNext([&] { width = XOf(start + ObjectA.Duration()) - left; });
+  ItemA.Move(left, {}, width);
 }
 
 void BarDrawing::RefreshCaptions(const IMURTimelineObject& ObjectA) {

@@ -44,6 +44,7 @@ class BarDrawing {
 
  private:
   void SpanItem(const IMURTimelineObject& ObjectA, ICanvasItem& ItemA, double DurationA) const;
+  void SpanAndMoveItem(const IMURTimelineObject& ObjectA, ICanvasItem& ItemA) const;
   void MoveItem(ICanvasItem& ItemA, Date StartA) const;
   Ref<ICanvasItem> PlaceItem(const Ref<IMURTimelineObject>& ObjectA, int LevelA);
   float XOf(double SecondsA) const { return mState.companions.timeMapper->SecondsToX(SecondsA); }

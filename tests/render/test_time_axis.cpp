@@ -157,7 +157,7 @@ TEST(Repaint, SpansAndMovesEachBarAndThenTheCursor) {
   recording.canvas->Repaint.Raise();
   EXPECT_EQ(recording.log.Take(),
             "Mapper.SetTimeRange(3155889600, 3155890600); Mapper.SetPixelRange(0, 1000); "
-            "Item.Move S (0, -, 50, -); Item.Move S (100, -, -, -); "
+            "Item.Move S (100, -, 50, -); "
             "Item.Caption S (2) = 'Offset: 0s style 4 at 25'; "
             "Scroller.CursorTime = #2000-01-01 12:00:00#; Item.Move The Cursor (-2.5, 0, 5, 200)");
 }
