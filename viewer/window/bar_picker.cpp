@@ -27,7 +27,7 @@ bool BarPicker::eventFilter(QObject* WatchedA, QEvent* EventA) {
   qt::GuardEvent([&] {
     const bool press = EventA->type() == QEvent::MouseButtonPress;
     if (!press && EventA->type() != QEvent::MouseButtonRelease) return;
-    const auto& mouse = static_cast<const QMouseEvent&>(*EventA);
+    const auto& mouse = dynamic_cast<const QMouseEvent&>(*EventA);
     if (mouse.button() != Qt::LeftButton) return;
     const QPointF point = qobject_cast<QWidget*>(WatchedA)->mapTo(&mWidget, mouse.position());
     press ? Press(point) : Release(point);

@@ -27,7 +27,7 @@ void PointerReadout::SetFile(const LoadedFile& FileA) {
 
 bool PointerReadout::eventFilter(QObject* WatchedA, QEvent* EventA) {
   qt::GuardEvent([&] {
-    if (EventA->type() == QEvent::MouseMove) Show(static_cast<const QMouseEvent&>(*EventA).position().x());
+    if (EventA->type() == QEvent::MouseMove) Show(dynamic_cast<const QMouseEvent&>(*EventA).position().x());
     if (EventA->type() == QEvent::Leave) Show(std::nullopt);
   });
   return QLabel::eventFilter(WatchedA, EventA);
