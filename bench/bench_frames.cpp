@@ -83,7 +83,8 @@ void FullRepaint(benchmark::State& StateA) {
     });
 }
 
-void SceneReplacingAndFrame(benchmark::State& StateA) {
+// Without a rest between: the items are no longer in the index and need not leave it.
+void SceneReplacingAgain(benchmark::State& StateA) {
   SceneSample& sample = FilledScene(static_cast<int>(StateA.range(0)));
   Picture picture;
   double seconds = kSecondsOfVisibleBars;
@@ -95,8 +96,8 @@ void SceneReplacingAndFrame(benchmark::State& StateA) {
     });
 }
 
-// A scene that was just filled and painted for the first time: its items are all in its index, which they
-// have to leave.
+// Re-placing alone, without the following frame. The scene was at rest: its items are in its index, which
+// they have to leave.
 void SceneReplacing(benchmark::State& StateA) {
   const int count = static_cast<int>(StateA.range(0));
   for (auto _ : StateA) {
@@ -110,8 +111,8 @@ void SceneReplacing(benchmark::State& StateA) {
 }
 
 BENCHMARK(FullRepaint)->Name("full repaint and the following frame")->Apply(Sizes);
-BENCHMARK(SceneReplacingAndFrame)->Name("full repaint and the following frame [scene]")->Apply(Sizes);
-BENCHMARK(SceneReplacing)->Name("the scene's re-placing alone")->Apply(Sizes);
+BENCHMARK(SceneReplacing)->Name("full repaint and the following frame [scene]")->Apply(Sizes);
+BENCHMARK(SceneReplacingAgain)->Name("the scene re-placed again and again, with frame")->Apply(Sizes);
 BENCHMARK(FrameWithSomeVisible)->Name("frame with 2,000 bars visible")->Apply(Sizes);
 BENCHMARK(SceneFrameWithSomeVisible)->Name("frame with 2,000 bars visible [scene]")->Apply(Sizes);
 BENCHMARK(FrameWithAllVisible)->Name("frame with all bars visible")->Apply(Sizes);

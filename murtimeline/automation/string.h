@@ -13,8 +13,8 @@ namespace mur {
 using String = std::u16string;
 using StringView = std::u16string_view;
 
-/// Whether two texts are the same, unit by unit. (The comparison of the standard library goes unit by unit for
-/// 16-bit text; this one does not.)
+/// Whether two texts are the same, unit by unit. (The comparison of the standard library goes unit by unit
+/// for 16-bit text; this one does not.)
 inline bool IsSameText(StringView LeftA, StringView RightA) noexcept {
   return LeftA.size() == RightA.size() &&
          (LeftA.empty() || std::memcmp(LeftA.data(), RightA.data(), LeftA.size() * sizeof(char16_t)) == 0);

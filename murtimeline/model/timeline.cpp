@@ -96,7 +96,8 @@ void CMURTimeline::RemoveTrackKey(const Variant& KeyIndexA) {
 std::size_t CMURTimeline::TrackPosition(StringView KeyA) const {
   // Keys are unique when letter case is ignored, so that no other one can be equal exactly.
   const std::size_t slot = mTrackKeys.SlotOfKey(KeyA);
-  return slot != TrackKeys::kNone && IsSameText(mTrackKeys.At(slot), KeyA) ? mTrackKeys.PositionOfSlot(slot) : 0;
+  return slot != TrackKeys::kNone && IsSameText(mTrackKeys.At(slot), KeyA) ? mTrackKeys.PositionOfSlot(slot)
+                                                                           : 0;
 }
 
 std::int32_t CMURTimeline::Count() const {

@@ -63,7 +63,8 @@ void ExpectSound(const Ref<IMURTimelineObject>& RootA) {
       if (const auto child = ItemAt(*object, i)) deepest = std::max(deepest, depths[child.Get()]);
     depths[object.Get()] = deepest + 1;
     // A depth that is not kept counts as what was walked.
-    EXPECT_EQ(object->KnownSubtreeDepth().value_or(deepest + 1), deepest + 1) << "depth of " << ToUtf8(object->Key());
+    EXPECT_EQ(object->KnownSubtreeDepth().value_or(deepest + 1), deepest + 1)
+        << "depth of " << ToUtf8(object->Key());
   }
 }
 
