@@ -130,7 +130,7 @@ class Player {
   static std::vector<std::string> LinesOf(const std::string& TextA) {
     std::vector<std::string> lines;
     std::size_t start = 0;
-    for (std::size_t end; (end = TextA.find("\r\n", start)) != std::string::npos; start = end + 2)
+    for (std::size_t end = 0; (end = TextA.find("\r\n", start)) != std::string::npos; start = end + 2)
       lines.push_back(TextA.substr(start, end - start));
     if (start < TextA.size()) lines.push_back(TextA.substr(start) + " (without a line end)");
     return lines;

@@ -113,6 +113,7 @@ Variant ScenarioValues::Parse(const std::string& WordA) const {
 
 std::vector<Variant> ScenarioValues::Parse(const std::vector<std::string>& WordsA) const {
   std::vector<Variant> values;
+  values.reserve(WordsA.size());
   for (const auto& word : WordsA) values.push_back(Parse(word));
   return values;
 }

@@ -17,13 +17,13 @@ bool Spoil(Statement& StatementA) {
       StatementA.expected.assign(1, "\"something else\"");
       return StatementA.hasExpectation;
     case StatementKind::ExpectEvents:
-      StatementA.expected.push_back("Unheard()");
+      StatementA.expected.emplace_back("Unheard()");
       return true;
     case StatementKind::Each:
-      StatementA.expected.push_back("0");
+      StatementA.expected.emplace_back("0");
       return true;
     case StatementKind::ExpectText:
-      StatementA.expected.push_back("one more line");
+      StatementA.expected.emplace_back("one more line");
       return true;
     default:
       return false;
