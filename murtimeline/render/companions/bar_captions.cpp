@@ -15,8 +15,9 @@ constexpr float kGap = 6;
 constexpr float kLargestSize = 11;
 constexpr float kSmallestSize = 7;
 constexpr float kLinePerSize = 1.2F;
-constexpr float kLeastRoom = 14;   // narrower, not even a short caption fits
-constexpr float kLeastShare = 20;  // narrower, an elided caption tells nothing
+constexpr float kLeastRoom = 14;       // narrower, not even a short caption fits
+constexpr float kLeastShare = 20;      // narrower, an elided caption tells nothing
+constexpr std::size_t kLeastKept = 3;  // nor does one of which fewer characters are left
 
 enum Column { kLeft, kCentre, kRight, kColumns };
 enum Row { kTop, kMiddle, kBottom, kRows };
@@ -77,7 +78,7 @@ class LinePainter {
         mTexts[column] = MeasureForRoom(mSurface, LineA[column], mStyle, mRight - mLeft);
     ShareWidth();
     for (auto& text : mTexts)
-      if (text && text->text.empty()) text.reset();
+      if (text && TellsNothing(*text)) text.reset();
     DrawAt(mLeft, kLeft, RowA, AreaA);
     DrawAt(CentreStart(), kCentre, RowA, AreaA);
     DrawAt(mRight - WidthOf(kRight), kRight, RowA, AreaA);
@@ -85,6 +86,10 @@ class LinePainter {
 
  private:
   float WidthOf(Column ColumnA) const { return mTexts[ColumnA] ? mTexts[ColumnA]->extent.width : 0; }
+
+  static bool TellsNothing(const MeasuredText& TextA) {
+    return TextA.text.empty() || (TextA.isCut && TextA.text.size() <= kLeastKept);
+  }
 
   // Each caption gets its equal share of the width; what one leaves over goes to the others. One with too
   // small a share goes: the right one first, then the left one.

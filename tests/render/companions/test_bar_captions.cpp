@@ -72,6 +72,12 @@ TEST(BarCaptions, AreElidedWhereTheyDoNotFit) {
   EXPECT_THAT(Drawn(50, 16, {{5, u"a long caption"}}), ElementsAre("5,11 a lon\u2026"));
 }
 
+TEST(BarCaptions, AreLeftOutWhereLessThanThreeCharactersWouldBeLeft) {
+  EXPECT_THAT(Drawn(35, 16, {{5, u"a long caption"}}), IsEmpty());
+  EXPECT_THAT(Drawn(36, 16, {{5, u"a long caption"}}).size(), 1U);
+  EXPECT_THAT(Drawn(35, 16, {{5, u"abcd"}}).size(), 1U) << "all of it fits";
+}
+
 TEST(BarCaptions, ShareTheWidthOfTheirLine) {
   const Lines lines = Drawn(120, 16, {{4, u"left caption"}, {5, u"mid"}, {6, u"right caption"}});
   EXPECT_THAT(lines, ElementsAre("4,11 left\u2026", "50,11 mid", "76,11 right\u2026"));
