@@ -77,8 +77,6 @@ class LinePainter {
       if (!LineA[column].empty())
         mTexts[column] = MeasureForRoom(mSurface, LineA[column], mStyle, mRight - mLeft);
     ShareWidth();
-    for (auto& text : mTexts)
-      if (text && TellsNothing(*text)) text.reset();
     DrawAt(mLeft, kLeft, RowA, AreaA);
     DrawAt(CentreStart(), kCentre, RowA, AreaA);
     DrawAt(mRight - WidthOf(kRight), kRight, RowA, AreaA);
@@ -87,18 +85,24 @@ class LinePainter {
  private:
   float WidthOf(Column ColumnA) const { return mTexts[ColumnA] ? mTexts[ColumnA]->extent.width : 0; }
 
-  static bool TellsNothing(const MeasuredText& TextA) {
-    return TextA.text.empty() || (TextA.isCut && TextA.text.size() <= kLeastKept);
+  using Texts = std::array<std::optional<MeasuredText>, kColumns>;
+
+  static bool TellsNothing(const std::optional<MeasuredText>& TextA) {
+    return TextA && (TextA->text.empty() || (TextA->isCut && TextA->text.size() <= kLeastKept));
   }
 
-  // Each caption gets its equal share of the width; what one leaves over goes to the others. One with too
-  // small a share goes: the right one first, then the left one.
+  // Each caption gets its equal share of the width; what one leaves over goes to the others. Where one would
+  // tell nothing in its share, one goes: the right one first, then the left one.
   void ShareWidth() {
     for (const Column victim : {kRight, kLeft, kCentre}) {
       if (const float share = EqualShare(); share >= std::min(kLeastShare, mRight - mLeft)) {
-        for (auto& text : mTexts)
+        Texts shared = mTexts;
+        for (auto& text : shared)
           if (text) text = Elided(mSurface, *std::move(text), mStyle, share);
-        return;
+        if (std::none_of(shared.begin(), shared.end(), TellsNothing)) {
+          mTexts = std::move(shared);
+          return;
+        }
       }
       mTexts[victim].reset();
     }
@@ -149,7 +153,7 @@ class LinePainter {
   Surface& mSurface;
   const TextStyle& mStyle;
   float mLeft, mRight;
-  std::array<std::optional<MeasuredText>, kColumns> mTexts;
+  Texts mTexts;
 };
 
 }  // namespace

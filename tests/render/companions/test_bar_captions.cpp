@@ -73,9 +73,13 @@ TEST(BarCaptions, AreElidedWhereTheyDoNotFit) {
 }
 
 TEST(BarCaptions, AreLeftOutWhereLessThanThreeCharactersWouldBeLeft) {
-  EXPECT_THAT(Drawn(35, 16, {{5, u"a long caption"}}), IsEmpty());
-  EXPECT_THAT(Drawn(36, 16, {{5, u"a long caption"}}).size(), 1U);
-  EXPECT_THAT(Drawn(35, 16, {{5, u"abcd"}}).size(), 1U) << "all of it fits";
+  EXPECT_THAT(Drawn(34, 16, {{5, u"abcdef"}}), IsEmpty());
+  EXPECT_THAT(Drawn(35, 16, {{5, u"abcdef"}}), ElementsAre("4,11 abc\u2026"));
+  EXPECT_THAT(Drawn(34, 16, {{5, u"abc"}}).size(), 1U) << "all of it fits";
+}
+
+TEST(BarCaptions, GiveTheirWidthToTheOthersWhereTheyWouldTellNothing) {
+  EXPECT_THAT(Drawn(60, 16, {{4, u"left"}, {5, u"centre"}, {6, u"right"}}), ElementsAre("10,11 centre"));
 }
 
 TEST(BarCaptions, ShareTheWidthOfTheirLine) {
@@ -85,7 +89,7 @@ TEST(BarCaptions, ShareTheWidthOfTheirLine) {
 
 TEST(BarCaptions, LeaveOutWhatHasNoRoomTheRightOneFirst) {
   EXPECT_THAT(Drawn(42, 16, {{4, u"left"}, {6, u"right"}}), ElementsAre("4,11 left"));
-  EXPECT_THAT(Drawn(60, 16, {{4, u"left"}, {5, u"centre"}, {6, u"right"}}).size(), 2U);
+  EXPECT_THAT(Drawn(76, 16, {{4, u"left"}, {5, u"centre"}, {6, u"right"}}).size(), 2U);
 }
 
 TEST(BarCaptions, AreNotDrawnOnSmallBars) {
