@@ -10,6 +10,8 @@ namespace {
 
 constexpr double kFramesPerSecond = 25;
 constexpr std::int32_t kRelativeTimes = 1;
+constexpr std::int32_t kWithoutThousandths = 2;  // styles hh:mm:ss
+constexpr std::int32_t kWithThousandths = 3;     // and hh:mm:ss.mmm
 constexpr std::int64_t kMonthsPerYear = 12;
 // A time line that starts this close to date 0 counts from there and means no calendar.
 constexpr double kDaysAboutZero = 366;
@@ -70,7 +72,7 @@ String ScaleTexts::Label(const TickStep& StepA, std::int64_t TimeA) const {
   const bool namesDays = mIsCalendar && StepA.IsDayOrMore();
   if (!mSettings.formatString.empty() && (!namesDays || LabelsDiffer(StepA, TimeA)))
     return FormattedLabel(TimeA);
-  return namesDays ? Formatted(DateOf(TimeA), CalendarPattern(StepA)) : StyledLabel(TimeA);
+  return namesDays ? Formatted(DateOf(TimeA), CalendarPattern(StepA)) : StyledLabel(StepA, TimeA);
 }
 
 const TickStep* ScaleTexts::ContextStep(const TickStep& StepA) const {
@@ -93,9 +95,16 @@ String ScaleTexts::FormattedLabel(std::int64_t TimeA) const {
   return (TimeA < 0 ? u"-" : u"+") + text;
 }
 
-String ScaleTexts::StyledLabel(std::int64_t TimeA) const {
+// Where every tick stands on a whole second, thousandths would say nothing.
+std::int32_t ScaleTexts::StyleFor(const TickStep& StepA) const {
+  const bool wholeSeconds = StepA.milliseconds % kMillisecondsPerSecond == 0;
+  return mSettings.formatStyle == kWithThousandths && wholeSeconds ? kWithoutThousandths
+                                                                   : mSettings.formatStyle;
+}
+
+String ScaleTexts::StyledLabel(const TickStep& StepA, std::int64_t TimeA) const {
   const double seconds = SecondsOf(mIsCalendar ? TimeOfDay(TimeA) : TimeA);
-  const String text = MURTimeText().FormatSeconds(seconds, mSettings.formatStyle, kFramesPerSecond);
+  const String text = MURTimeText().FormatSeconds(seconds, StyleFor(StepA), kFramesPerSecond);
   return mIsRelative && TimeA > 0 ? u"+" + text : text;
 }
 

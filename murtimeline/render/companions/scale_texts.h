@@ -36,7 +36,8 @@ class MUR_API ScaleTexts {
 
  private:
   String FormattedLabel(std::int64_t TimeA) const;
-  String StyledLabel(std::int64_t TimeA) const;
+  std::int32_t StyleFor(const TickStep& StepA) const;
+  String StyledLabel(const TickStep& StepA, std::int64_t TimeA) const;
   bool LabelsDiffer(const TickStep& StepA, std::int64_t TimeA) const;
 
   const ScaleSettings& mSettings;

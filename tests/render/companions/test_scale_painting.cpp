@@ -69,6 +69,13 @@ TEST_F(ScalePainting, PaintsAScaleAsBefore) {
   EXPECT_EQ(Painted().Log(), test::Golden(test::GoldenPath(__FILE__, "scale.txt"), Painted().Log()));
 }
 
+TEST_F(ScalePainting, LeavesThousandthsOutWhereEveryTickStandsOnAWholeSecond) {
+  scroll->SetTimeScaleFormatStyle(3);
+  EXPECT_THAT(Texts(), AllOf(Contains("09:10:00"), Not(Contains(HasSubstr(".000")))));
+  Show(kNine, 1);
+  EXPECT_THAT(Texts(), Contains("09:00:00.400"));
+}
+
 TEST_F(ScalePainting, WritesTimesOfTheDayInTheStyleUnderTheirDate) {
   scroll->SetTimeScaleFormatStyle(2);
   EXPECT_THAT(Texts(), ElementsAre("09:00:00", "09:10:00", "09:20:00", "09:30:00", "09:40:00", "09:50:00",
