@@ -4,9 +4,8 @@
 #include <QStringList>
 
 #include "viewer/readers/cue_text.h"
-#include "viewer/readers/cues.h"
+#include "viewer/readers/cue_times.h"
 #include "viewer/readers/text_decoding.h"
-#include "viewer/readers/text_position.h"
 
 namespace mur::viewer {
 namespace {
@@ -22,13 +21,11 @@ class SubRipReading {
       ProgressA.Report(mAt, mLines.size());
       ReadCue();
     }
-    if (mCues.empty()) Fail(0, "it holds no subtitles");
+    if (mCues.empty()) FailInLine(0, "it holds no subtitles");
     return std::move(mCues);
   }
 
  private:
-  static bool IsTiming(const QString& LineA) { return LineA.contains(QLatin1String("-->")); }
-
   static bool IsNumber(const QString& LineA) {
     static const QRegularExpression number(QStringLiteral(R"(^\s*\d+\s*$)"));
     return number.match(LineA).hasMatch();
@@ -39,7 +36,7 @@ class SubRipReading {
     return time.match(LineA).hasMatch();
   }
 
-  bool IsTimingAt(std::size_t LineA) const { return LineA < mLines.size() && IsTiming(mLines[LineA]); }
+  bool IsTimingAt(std::size_t LineA) const { return LineA < mLines.size() && IsCueTiming(mLines[LineA]); }
   bool IsBlankAt(std::size_t LineA) const { return mLines[LineA].trimmed().isEmpty(); }
   // A number or name with its times below it, or the times themselves.
   bool IsStartAt(std::size_t LineA) const { return IsTimingAt(LineA) || IsTimingAt(LineA + 1); }
@@ -50,8 +47,8 @@ class SubRipReading {
 
   void ReadCue() {
     if (!IsStartAt(mAt)) {
-      Fail(mAt, IsNumber(mLines[mAt]) ? "a cue number without times behind it"
-                                      : "expected a cue number or the times of a cue");
+      FailInLine(mAt, IsNumber(mLines[mAt]) ? "a cue number without times behind it"
+                                            : "expected a cue number or the times of a cue");
     }
     if (!IsTimingAt(mAt)) ++mAt;
     const std::size_t timing = mAt;
@@ -59,7 +56,7 @@ class SubRipReading {
     ++mAt;
     cue.text = PlainCueText(ReadText());
     if (cue.text.empty() && mAt >= mLines.size() && (mEndsOpen || timing + 1 == mLines.size()))
-      Fail(timing, "the file ends behind the times of its last cue");
+      FailInLine(timing, "the file ends behind the times of its last cue");
     mCues.push_back(std::move(cue));
   }
 
@@ -67,15 +64,7 @@ class SubRipReading {
     static const QRegularExpression timing(
         QStringLiteral(R"(^\s*(?:(\d{1,4}):)?([0-5]?\d):([0-5]?\d)(?:[.,](\d{1,9}))?\s*-->)"
                        R"(\s*(?:(\d{1,4}):)?([0-5]?\d):([0-5]?\d)(?:[.,](\d{1,9}))?(?:\s.*)?$)"));
-    const QRegularExpressionMatch match = timing.match(mLines[mAt]);
-    if (!match.hasMatch()) Fail(mAt, "the times of this cue cannot be read");
-    const auto seconds = [&](int first) {
-      return CueSeconds(match.capturedView(first), match.capturedView(first + 1),
-                        match.capturedView(first + 2), match.capturedView(first + 3));
-    };
-    const Cue cue{seconds(1), seconds(5), {}};
-    if (cue.end < cue.start) Fail(mAt, "this cue ends before it starts");
-    return cue;
+    return ReadCueTimes(timing, mLines[mAt], mAt);
   }
 
   // Up to the next cue. Lines behind a blank one still belong to the text unless they look like a damaged
@@ -94,10 +83,6 @@ class SubRipReading {
       text += mLines[mAt];
     }
     return text.join(QLatin1Char('\n'));
-  }
-
-  [[noreturn]] static void Fail(std::size_t LineA, const char* ReasonA) {
-    throw ReadError(PlaceText(LineA + 1, 1), ReasonA);
   }
 
   std::vector<QString> mLines;

@@ -4,9 +4,8 @@
 #include <QStringList>
 
 #include "viewer/readers/cue_text.h"
-#include "viewer/readers/cues.h"
+#include "viewer/readers/cue_times.h"
 #include "viewer/readers/text_decoding.h"
-#include "viewer/readers/text_position.h"
 
 namespace mur::viewer {
 namespace {
@@ -28,8 +27,6 @@ class WebVttReading {
   }
 
  private:
-  static bool IsTiming(const QString& LineA) { return LineA.contains(QLatin1String("-->")); }
-
   // A block that holds no cue, by its first line.
   static bool IsDefinition(const QString& LineA) {
     static const QRegularExpression definition(QStringLiteral(R"(^(NOTE|STYLE|REGION)([ \t].*)?$)"));
@@ -39,9 +36,9 @@ class WebVttReading {
   void SkipHeader() {
     static const QRegularExpression header(QStringLiteral(R"(^WEBVTT([ \t].*)?$)"));
     if (mLines.empty() || !header.match(mLines[0]).hasMatch())
-      Fail(0, "expected \"WEBVTT\" at the beginning");
+      FailInLine(0, "expected \"WEBVTT\" at the beginning");
     // Some files begin their first cue right below the header.
-    for (++mAt; mAt < mLines.size() && !mLines[mAt].isEmpty() && !IsTiming(mLines[mAt]);) ++mAt;
+    for (++mAt; mAt < mLines.size() && !mLines[mAt].isEmpty() && !IsCueTiming(mLines[mAt]);) ++mAt;
   }
 
   void ReadBlock() {
@@ -50,12 +47,12 @@ class WebVttReading {
       return;
     }
     const std::size_t start = mAt;
-    if (!IsTiming(mLines[mAt])) ++mAt;  // the cue's name
-    if (mAt >= mLines.size() || !IsTiming(mLines[mAt])) Fail(start, "a cue without times");
+    if (!IsCueTiming(mLines[mAt])) ++mAt;  // the cue's name
+    if (mAt >= mLines.size() || !IsCueTiming(mLines[mAt])) FailInLine(start, "a cue without times");
     Cue cue = ReadTiming();
     const std::size_t timing = mAt++;
     cue.text = PlainCueText(TakeBlock());
-    if (timing + 1 == mLines.size()) Fail(timing, "the file ends behind the times of its last cue");
+    if (timing + 1 == mLines.size()) FailInLine(timing, "the file ends behind the times of its last cue");
     mCues.push_back(std::move(cue));
   }
 
@@ -63,27 +60,15 @@ class WebVttReading {
     static const QRegularExpression timing(
         QStringLiteral(R"(^[ \t]*(?:(\d{2,6}):)?([0-5]\d):([0-5]\d)\.(\d{3})[ \t]*-->)"
                        R"([ \t]*(?:(\d{2,6}):)?([0-5]\d):([0-5]\d)\.(\d{3})(?:[ \t].*)?$)"));
-    const QRegularExpressionMatch match = timing.match(mLines[mAt]);
-    if (!match.hasMatch()) Fail(mAt, "the times of this cue cannot be read");
-    const auto seconds = [&](int first) {
-      return CueSeconds(match.capturedView(first), match.capturedView(first + 1),
-                        match.capturedView(first + 2), match.capturedView(first + 3));
-    };
-    const Cue cue{seconds(1), seconds(5), {}};
-    if (cue.end < cue.start) Fail(mAt, "this cue ends before it starts");
-    return cue;
+    return ReadCueTimes(timing, mLines[mAt], mAt);
   }
 
   // The lines up to the next blank one or, where the blank one is missing, the next line of times.
   QString TakeBlock() {
     QStringList lines;
-    for (; mAt < mLines.size() && !mLines[mAt].isEmpty() && !IsTiming(mLines[mAt]); ++mAt)
+    for (; mAt < mLines.size() && !mLines[mAt].isEmpty() && !IsCueTiming(mLines[mAt]); ++mAt)
       lines += mLines[mAt];
     return lines.join(QLatin1Char('\n'));
-  }
-
-  [[noreturn]] static void Fail(std::size_t LineA, const char* ReasonA) {
-    throw ReadError(PlaceText(LineA + 1, 1), ReasonA);
   }
 
   std::vector<QString> mLines;
