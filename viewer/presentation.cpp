@@ -37,10 +37,10 @@ BarColors ScalarColors(FileKind KindA) {
   }
 }
 
-bool IsSound(const IMURTimelineObject& ObjectA) {
+bool IsClipOn(MURTimelineObjectType TrackTypeA, const IMURTimelineObject& ObjectA) {
   if (ObjectA.ObjectType() != murtlotMedia) return false;
   Ref<IMURTimelineObject> group = ObjectA.Parent();
-  while (group && group->GroupType() != kAudioTrackGroup) group = group->Parent();
+  while (group && group->GroupType() != TrackTypeA) group = group->Parent();
   return static_cast<bool>(group);
 }
 
@@ -57,7 +57,8 @@ BarColors SliceColors(const IMURTimelineObject& ObjectA) {
 std::optional<BarColors> OwnColors(const IMURTimelineObject& ObjectA, FileKind KindA) {
   if (KindA == FileKind::ChromeTrace && IsSlice(ObjectA)) return SliceColors(ObjectA);
   if (ObjectA.ObjectType() == murtlotScalar) return ScalarColors(KindA);
-  if (IsSound(ObjectA)) return kAudioColors;
+  if (IsClipOn(kAudioTrackGroup, ObjectA)) return kAudioColors;
+  if (IsClipOn(kSubtitleTrackGroup, ObjectA)) return kSubtitleColors;
   return std::nullopt;
 }
 
@@ -114,6 +115,7 @@ void PrepareControl(MURTimelineRender& ControlA) {
   Configure(ControlA, kTrackGroup, kTrackColors);
   Configure(ControlA, kAudioTrackGroup, kAudioTrackColors);
   Configure(ControlA, kNestedGroup, kNestedColors);
+  Configure(ControlA, kSubtitleTrackGroup, kTrackColors);
   Configure(ControlA, murtlotMedia, kVideoColors);
   Configure(ControlA, murtlotScalar, kSubtitleColors);
   ControlA.Collaborators().canvas->SetBackColor(kCanvasColor);

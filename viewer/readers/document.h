@@ -24,6 +24,8 @@ inline constexpr MURTimelineObjectType kTrackGroup = murtlotGroup;
 inline constexpr MURTimelineObjectType kSliceGroup = murtlotScalar;  // looks like the slices inside it
 inline constexpr MURTimelineObjectType kAudioTrackGroup = murtlotMeasurements;
 inline constexpr MURTimelineObjectType kNestedGroup = murtlotUnknown;
+/// The published types end before it; a group keeps any number.
+inline constexpr auto kSubtitleTrackGroup = static_cast<MURTimelineObjectType>(murtlotUnknown + 1);
 
 /// The recording behind a clip. Times are seconds.
 struct MediaSection {

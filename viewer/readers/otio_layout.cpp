@@ -164,10 +164,16 @@ class Layout {
     Entry entry;
     entry.type = murtlotGroup;
     entry.isTrack = IsTopA;
-    entry.groupType = NodeA.isAudio ? kAudioTrackGroup : IsTopA ? kTrackGroup : kNestedGroup;
+    entry.groupType = GroupTypeOf(NodeA, IsTopA);
     entry.key = NodeA.name.empty() ? TrackName(NodeA, IsTopA) : NodeA.name;
     entry.tag = NodeA.tag.empty() ? entry.key : NodeA.tag;
     return entry;
+  }
+
+  static MURTimelineObjectType GroupTypeOf(const OtioNode& NodeA, bool IsTopA) {
+    if (NodeA.isAudio) return kAudioTrackGroup;
+    if (NodeA.trackKind == u"Subtitle") return kSubtitleTrackGroup;
+    return IsTopA ? kTrackGroup : kNestedGroup;
   }
 
   String TrackName(const OtioNode& NodeA, bool IsTopA) const {

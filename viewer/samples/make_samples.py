@@ -5,6 +5,7 @@ The film is made up. 25 frames a second, starting at one hour, as edits for tele
 """
 import json
 import pathlib
+import re
 
 RATE = 25
 FOLDER = pathlib.Path(__file__).parent
@@ -41,10 +42,10 @@ def clip(name, duration, cut_in, length, folder="rushes", suffix="mov", markers=
                 media_references={"DEFAULT_MEDIA": reference}, active_media_reference_key="DEFAULT_MEDIA")
 
 
-def card(name, duration):
-    """A title card: generated, without a file."""
+def card(name, duration, kind="Title"):
+    """A title card or subtitle: generated, without a file."""
     reference = {"OTIO_SCHEMA": "GeneratorReference.1", "name": name, "metadata": {}, "available_range": None,
-                 "generator_kind": "Title", "parameters": {}}
+                 "generator_kind": kind, "parameters": {}}
     return item("Clip.2", name, source_range=span(0, duration), media_references={"DEFAULT_MEDIA": reference},
                 active_media_reference_key="DEFAULT_MEDIA")
 
@@ -127,13 +128,28 @@ def sound_music():
         gap(3), clip("M3 Storm", 41, 0, 71, "music", "wav"), dissolve(2), clip("M4 Credits", 36, 2, 180, "music", "wav")])
 
 
+def subtitle_tracks():
+    """The cues in tracks on which they do not overlap."""
+    tracks, ends = [], []
+    for cue_start, cue_end, text in SUBTITLES:
+        start, end = frames(cue_start) / RATE, frames(cue_end) / RATE
+        lane = next((i for i, at in enumerate(ends) if at <= start), len(ends))
+        if lane == len(ends):
+            tracks.append([])
+            ends.append(0)
+        plain = re.sub(r"<[^>]*>", "", text).replace("\n", " ")
+        tracks[lane] += [gap(start - ends[lane]), card(plain, end - start, "Subtitle")]
+        ends[lane] = end
+    return [track(f"S{i}", "Subtitle", children) for i, children in enumerate(tracks, 1)]
+
+
 def edit():
     notes = [marker("Titles out", 20, "GREEN", "Picture lock up to here"),
              marker("Check sync", 84, "RED", "Boom runs two frames late"),
              marker("Storm", 120.2, "CYAN", "Sound effects to come", 27.4),
              marker("Music hit", 164, "PURPLE", "Glass breaks on the beat")]
-    tracks = stack("tracks", [picture_main(), picture_cutaways(), picture_graphics(), sound_dialogue(),
-                              sound_ambience(), sound_music()], notes)
+    tracks = stack("tracks", [picture_main(), picture_cutaways(), picture_graphics(), *subtitle_tracks(),
+                              sound_dialogue(), sound_ambience(), sound_music()], notes)
     return {"OTIO_SCHEMA": "Timeline.1", "name": "Salt & Glass, Reel 1", "metadata": {},
             "global_start_time": time(3600), "tracks": tracks}
 

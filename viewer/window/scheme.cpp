@@ -14,6 +14,7 @@ void Configure(MURTimelineRender& ControlA, MURTimelineObjectType KindA, const B
 const BarColors* GroupColors(const Scheme& SchemeA, MURTimelineObjectType GroupTypeA) {
   switch (GroupTypeA) {
     case kTrackGroup:
+    case kSubtitleTrackGroup:
       return &SchemeA.track;
     case kAudioTrackGroup:
       return &SchemeA.audioTrack;
@@ -45,6 +46,7 @@ void ApplyScheme(MURTimelineRender& ControlA, const Scheme& SchemeA) {
   Configure(ControlA, kTrackGroup, SchemeA.track);
   Configure(ControlA, kAudioTrackGroup, SchemeA.audioTrack);
   Configure(ControlA, kNestedGroup, SchemeA.nested);
+  Configure(ControlA, kSubtitleTrackGroup, SchemeA.track);
   ControlA.Collaborators().canvas->SetBackColor(SchemeA.canvas);
   RecolorGroups(ControlA, SchemeA);
 }
