@@ -3,6 +3,7 @@
 #include <murtimeline/model/timeline_owner.h>
 
 #include "viewer/loading.h"
+#include "viewer/readers/document.h"
 
 namespace mur::viewer::test {
 namespace {

@@ -12,7 +12,7 @@ void Configure(MURTimelineRender& ControlA, MURTimelineObjectType KindA, const B
 }
 
 const BarColors* GroupColors(const Scheme& SchemeA, MURTimelineObjectType GroupTypeA) {
-  switch (GroupTypeA) {
+  switch (static_cast<int>(GroupTypeA)) {
     case kTrackGroup:
     case kSubtitleTrackGroup:
       return &SchemeA.track;
