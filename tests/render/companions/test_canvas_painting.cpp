@@ -105,7 +105,8 @@ TEST_F(CanvasPainting, DrawsByStackingOrder) {
 TEST_F(CanvasPainting, FramesSmallBarsAndRoundsLargeOnes) {
   Bar(0, 5);
   Bar(20, 50);
-  EXPECT_THAT(Drawn("frame"), ElementsAre("frame 0,0 5x20 #a60000 width 1"));
+  EXPECT_THAT(Drawn("fill"), ElementsAre("fill 0,0 5x20 #a60000", "fill 1,1 3x18 #ff0000"));
+  EXPECT_THAT(Drawn("fill-rounded"), ElementsAre("fill-rounded 20,0 50x20 #ff0000 radius 3"));
   EXPECT_THAT(Drawn("frame-rounded"), ElementsAre("frame-rounded 20,0 50x20 #a60000 width 1 radius 3"));
 }
 
