@@ -22,10 +22,8 @@ void BarDrawing::AddBar(const Ref<IMURTimelineObject>& ObjectA) {
     if (!item) return;
     item->SetHeight(mState.barHeight);
     PlaceObjectItemTree(ObjectA, GetNestingLevel(ObjectA));
-    const Ref<CMURTLRenderConfig> config = mConfigs.Resolve(*ObjectA);
     item->SetCaption(kTagSite, ObjectA->Tag());
-    item->SetForeColor(config->ForeColor());
-    item->SetBackColor(config->BackColor());
+    ColorItem(*ObjectA, *item);
     if (const Ref<ICanvasItem> cursor = mState.Canvas().GraphicByKey(kCursorKey)) cursor->ZOrder(kToBack);
   });
 }
@@ -133,11 +131,13 @@ void BarDrawing::RefreshTooltip(const IMURTimelineObject& ObjectA) {
 }
 
 void BarDrawing::RefreshColors(const IMURTimelineObject& ObjectA) {
-  const Ref<ICanvasItem> item = ItemOf(ObjectA);
-  if (!item) return;
+  if (const Ref<ICanvasItem> item = ItemOf(ObjectA)) ColorItem(ObjectA, *item);
+}
+
+void BarDrawing::ColorItem(const IMURTimelineObject& ObjectA, ICanvasItem& ItemA) const {
   const Ref<CMURTLRenderConfig> config = mConfigs.Resolve(ObjectA);
-  item->SetForeColor(config->ForeColor());
-  item->SetBackColor(config->BackColor());
+  ItemA.SetForeColor(config->ForeColor());
+  ItemA.SetBackColor(config->BackColor());
 }
 
 void BarDrawing::SetItemBackColor(const IMURTimelineObject& ObjectA, OleColor ColorA) {

@@ -43,6 +43,7 @@ class BarDrawing {
   void RecolorBars(IsHighlighted&& IsHighlightedA);
 
  private:
+  void ColorItem(const IMURTimelineObject& ObjectA, ICanvasItem& ItemA) const;
   void SpanItem(const IMURTimelineObject& ObjectA, ICanvasItem& ItemA, double DurationA) const;
   void SpanAndMoveItem(const IMURTimelineObject& ObjectA, ICanvasItem& ItemA) const;
   void MoveItem(ICanvasItem& ItemA, Date StartA) const;

@@ -7,6 +7,8 @@
 #include <murtimeline/render/companions/bar_captions.h>
 #include <murtimeline/render/port/recording_surface.h>
 
+#include "tests/support/blank_surface.h"
+
 using namespace mur;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -111,23 +113,11 @@ TEST(BarCaptions, NeverOverlapWhateverTheirLengths) {
           texts.SetCaption(4, String(left, u'l'));
           texts.SetCaption(5, String(centre, u'c'));
           texts.SetCaption(6, String(right, u'r'));
-          struct Spans final : Surface {
+          struct Spans final : test::BlankSurface {
             std::vector<std::pair<float, float>> spans;
-            float DevicePixelRatio() const override { return 1; }
-            void FillRectangle(const RectF&, Rgba) override {}
-            void FrameRectangle(const RectF&, Rgba, float) override {}
-            void FillRoundedRectangle(const RectF&, float, Rgba) override {}
-            void FrameRoundedRectangle(const RectF&, float, Rgba, float) override {}
-            void DrawLine(PointF, PointF, Rgba, float) override {}
-            void FillPolygon(std::span<const PointF>, Rgba) override {}
             void DrawTextLine(PointF AtA, StringView TextA, const TextStyle& StyleA) override {
               spans.emplace_back(AtA.x, AtA.x + MeasureText(TextA, StyleA).width);
             }
-            TextExtent MeasureText(StringView TextA, const TextStyle& StyleA) const override {
-              return RecordingSurface().MeasureText(TextA, StyleA);
-            }
-            void PushClip(const RectF&) override {}
-            void PopClip() override {}
           } surface;
           DrawCaptions(surface, {0, 0, width, 16}, texts, {});
           float end = 4;

@@ -10,6 +10,7 @@
 #include <murtimeline/render/port/recording_surface.h>
 #include <murtimeline/render/port/scripted_host.h>
 
+#include "tests/support/blank_surface.h"
 #include "tests/support/golden.h"
 
 using namespace mur;
@@ -196,24 +197,12 @@ TEST_F(ScalePainting, NeverLetsTextsOverlap) {
     scroll->MarkerAdd(At(marker), FromAscii(std::to_string(marker)), u"Marker", true);
   for (double duration = 0.001; duration < 1e12; duration *= 1.7) {
     Show(kNine + duration / 3e6, duration);
-    struct Spans final : Surface {
+    struct Spans final : test::BlankSurface {
       std::vector<RectF> boxes;
-      float DevicePixelRatio() const override { return 1; }
-      void FillRectangle(const RectF&, Rgba) override {}
-      void FrameRectangle(const RectF&, Rgba, float) override {}
-      void FillRoundedRectangle(const RectF&, float, Rgba) override {}
-      void FrameRoundedRectangle(const RectF&, float, Rgba, float) override {}
-      void DrawLine(PointF, PointF, Rgba, float) override {}
-      void FillPolygon(std::span<const PointF>, Rgba) override {}
       void DrawTextLine(PointF AtA, StringView TextA, const TextStyle& StyleA) override {
         const TextExtent extent = MeasureText(TextA, StyleA);
         boxes.push_back({AtA.x, AtA.y - extent.ascent, extent.width, extent.Height()});
       }
-      TextExtent MeasureText(StringView TextA, const TextStyle& StyleA) const override {
-        return RecordingSurface().MeasureText(TextA, StyleA);
-      }
-      void PushClip(const RectF&) override {}
-      void PopClip() override {}
     } surface;
     scroll->Paint(surface, kAll);
     for (std::size_t one = 0; one < surface.boxes.size(); ++one)

@@ -7,6 +7,8 @@
 #include <murtimeline/render/port/recording_surface.h>
 #include <murtimeline/render/port/svg_surface.h>
 
+#include "tests/support/blank_surface.h"
+
 using namespace mur;
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -98,19 +100,9 @@ TEST(SvgSurface, IgnoresAPopWithoutAPush) {
 }
 
 TEST(SvgSurface, MeasuresInTheFixedFontUnlessItIsGivenASurface) {
-  class Wide final : public Surface {
+  class Wide final : public test::BlankSurface {
    public:
-    float DevicePixelRatio() const override { return 1; }
-    void FillRectangle(const RectF&, Rgba) override {}
-    void FrameRectangle(const RectF&, Rgba, float) override {}
-    void FillRoundedRectangle(const RectF&, float, Rgba) override {}
-    void FrameRoundedRectangle(const RectF&, float, Rgba, float) override {}
-    void DrawLine(PointF, PointF, Rgba, float) override {}
-    void FillPolygon(std::span<const PointF>, Rgba) override {}
-    void DrawTextLine(PointF, StringView, const TextStyle&) override {}
     TextExtent MeasureText(StringView, const TextStyle&) const override { return {77, 1, 1}; }
-    void PushClip(const RectF&) override {}
-    void PopClip() override {}
   };
   const Wide wide;
   SvgSurface measuring(100, 50, &wide);
