@@ -17,6 +17,19 @@ int NearestPixel(double TwipsA) {
   return Whole(std::round(TwipsA / static_cast<double>(ChildHost::kTwipsPerPixel)));
 }
 
+Qt::CursorShape CursorOf(PointerShape ShapeA) {
+  switch (ShapeA) {
+    case PointerShape::Points:
+      return Qt::PointingHandCursor;
+    case PointerShape::CanMove:
+      return Qt::OpenHandCursor;
+    case PointerShape::Moves:
+      return Qt::ClosedHandCursor;
+    default:
+      return Qt::ArrowCursor;
+  }
+}
+
 }  // namespace
 
 void HostedChild::SetHeight(float HeightA) {
@@ -60,6 +73,10 @@ void HostedChild::Invalidate(const RectF& RectA) {
 
 void HostedChild::InvalidateAll() {
   if (mWidget) mWidget->update();
+}
+
+void HostedChild::SetPointerShape(PointerShape ShapeA) {
+  if (mWidget) mWidget->setCursor(CursorOf(ShapeA));
 }
 
 Rgba HostedChild::SystemColor(int IndexA) const {

@@ -29,6 +29,9 @@ class MUR_API HostedChild final : public ChildHost, public HostFace {
   void SetToolTipText(StringView TextA) override { mToolTipText = TextA; }
   void Invalidate(const RectF& RectA) override;
   void InvalidateAll() override;
+  void SetPointerShape(PointerShape ShapeA) override;
+  /// Nothing to do: a widget hears of the pointer while a button that was pressed on it is held.
+  void CapturePointer(bool /*CaptureA*/) override {}
   Rgba SystemColor(int IndexA) const override;
 
   /// The place in whole logical pixels.

@@ -65,14 +65,14 @@ void TimelineReactions::OnObjectOrphaned(const ObjectRef& ParentA, const ObjectR
   ResumeNext([&] { mDrawing.RefreshCaptions(Named(ParentA)); });
 }
 
-// A group or scalar reports its start as "WorldtimeT0", which is no name of this list: its bar follows with
-// the next full repaint, by contract.
+// A group or scalar reports its start as "WorldtimeT0", which is no name of this list: unless the host wants
+// it otherwise its bar follows with the next full repaint, by contract.
 void TimelineReactions::OnObjectPropertyChanged(const ObjectRef& ObjectA, StringView PropNameA) {
   ResumeNext([&] {
     const IMURTimelineObject& object = Named(ObjectA);
     if (PropNameA == u"Duration")
       mDrawing.UpdateItemSpan(object, object.Duration());
-    else if (PropNameA == u"WorldTimeT0")
+    else if (PropNameA == u"WorldTimeT0" || (mState.followAllStarts && PropNameA == u"WorldtimeT0"))
       mDrawing.UpdateItemLeft(object, object.WorldTimeT0());
     else if (PropNameA == u"Offset" || PropNameA == u"Tag")
       mDrawing.RefreshCaptions(object);

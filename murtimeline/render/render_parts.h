@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include <murtimeline/render/interaction.h>
 #include <murtimeline/render/reactions.h>
 #include <murtimeline/render/timeline_render.h>
 
@@ -13,12 +14,16 @@ struct MURTimelineRender::Parts {
       : state{HostA, std::move(CompanionsA), Make<CMURTimeline>()},
         drawing(state),
         axis(state, drawing, OwnerA.CursorTimeChange),
-        reactions(OwnerA, state, drawing, axis) {}
+        reactions(OwnerA, state, drawing, axis),
+        highlight(state, drawing),
+        interaction(OwnerA, state, highlight, axis) {}
 
   RenderState state;
   BarDrawing drawing;
   TimeAxis axis;
   TimelineReactions reactions;
+  ObjectHighlight highlight;
+  Interaction interaction;
   std::vector<Connection> companionEvents;
 };
 

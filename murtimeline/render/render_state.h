@@ -45,6 +45,7 @@ struct RenderState {
   float timeScaleHeight = 600;
   float trackSeparation = 6;
   bool allowObjectDragging = false;
+  bool followAllStarts = false;
   std::array<std::int32_t, kCaptionSites> autoObjectCaption{};  // MURTimelineCaptionType; site 1 comes first
   bool autoHighlightObjects = true;
   std::int32_t autoSelectMode = etlcltNoClicks;  // MURTimelineClickType flags

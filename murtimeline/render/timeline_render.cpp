@@ -43,6 +43,7 @@ MURTimelineRender::MURTimelineRender(ControlHost& HostA, Companions CompanionsA)
   mParts->state.worldTimeT0 = Now();
   WriteStartSettings();
   ForwardScrollerEvents();
+  mParts->interaction.Attach();
 }
 
 MURTimelineRender::~MURTimelineRender() = default;
@@ -157,14 +158,13 @@ void MURTimelineRender::AlignTracks() {
     });
 }
 
-void MURTimelineRender::HighlightObjectsAtCursor(bool ForceA) {
-  const RenderState& state = mParts->state;
-  if ((!ForceA && !state.autoHighlightObjects) || !state.timeline) return;
-  ResumeNext([&] {
-    mParts->drawing.RecolorBars([&](const IMURTimelineObject& object) {
-      return state.autoHighlightObjects && object.SpansTime(state.cursorTime, true);
-    });
-  });
+bool MURTimelineRender::IsDragging() const {
+  return mParts->interaction.IsDragging();
+}
+
+bool MURTimelineRender::CancelDrag() {
+  const Ref<MURTimelineRender> keep(this);
+  return mParts->interaction.CancelDrag();
 }
 
 const Companions& MURTimelineRender::Collaborators() const {

@@ -21,10 +21,36 @@ class MUR_API MURTimelineRender final : public Object {
  public:
   using PointerEvent = ITimelineScroll::PointerEvent;
   using MarkerPointerEvent = ITimelineScroll::MarkerPointerEvent;
+  using TLObject = const Ref<IMURTimelineObject>&;
+  using CursorKey = StringView;  // always "The Cursor"
 
   /// `HostA` outlives the control. Missing companions are the control's own.
   explicit MURTimelineRender(ControlHost& HostA, Companions CompanionsA = {});
 
+  // Of the canvas's background, of bars, of the cursor. Handlers may change arguments that are references.
+  Event<> Click;
+  Event<> DblClick;
+  PointerEventOf<> MouseDown;
+  PointerEventOf<> MouseMove;
+  PointerEventOf<> MouseUp;
+  DragDropEventOf<> OLEDragDrop;
+  DragOverEventOf<> OLEDragOver;
+  Event<TLObject> TLObjectClick;
+  Event<TLObject> TLObjectDblClick;
+  PointerEventOf<TLObject> TLObjectMouseDown;
+  PointerEventOf<TLObject> TLObjectMouseMove;
+  PointerEventOf<TLObject> TLObjectMouseUp;
+  DragDropEventOf<TLObject> TLObjectOLEDragDrop;
+  DragOverEventOf<TLObject> TLObjectOLEDragOver;
+  Event<CursorKey> CursorClick;
+  Event<CursorKey> CursorDblClick;
+  PointerEventOf<CursorKey> CursorMouseDown;
+  PointerEventOf<CursorKey> CursorMouseMove;
+  PointerEventOf<CursorKey> CursorMouseUp;
+  DragDropEventOf<CursorKey> CursorOLEDragDrop;
+  DragOverEventOf<CursorKey> CursorOLEDragOver;
+
+  // Of the time scale, the markers and the cursor's time.
   Event<Date /*CursorTimeA*/> CursorTimeChange;
   Event<> TimeScaleClick;
   Event<> TimeScaleDblClick;
@@ -128,7 +154,17 @@ class MUR_API MURTimelineRender final : public Object {
   std::int32_t AutoSelectMode() const;
   void SetAutoSelectMode(std::int32_t ModeA);
   bool AllowObjectDragging() const;
+  /// Bars and the cursor follow a pointer that drags them with the left button.
   void SetAllowObjectDragging(bool AllowA);
+  /// Whether the bars of groups and scalars move at once when their starts change. Off at first: by contract
+  /// only media report their start under the name that moves a bar; the others wait for the next full
+  /// repaint, and a drag adds up until then.
+  bool FollowAllStarts() const;
+  void SetFollowAllStarts(bool FollowA);
+  /// Whether a bar or the cursor is being dragged.
+  bool IsDragging() const;
+  /// Ends a drag and puts what was dragged back to where it was taken up. False when there was none.
+  bool CancelDrag();
   std::int16_t OLEDropMode() const;
   void SetOLEDropMode(std::int16_t ModeA);
   bool ShowToolTips() const;
@@ -146,7 +182,6 @@ class MUR_API MURTimelineRender final : public Object {
 
   void WriteStartSettings();
   void ForwardScrollerEvents();
-  void HighlightObjectsAtCursor(bool ForceA);
   void Repaint();
   template <class Value, class New>
   void PutAndRepaint(Value& StoredA, const New& ValueA);

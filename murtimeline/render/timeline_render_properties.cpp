@@ -234,7 +234,7 @@ void MURTimelineRender::SetAutoHighlightObjects(bool HighlightA) {
   const Ref<MURTimelineRender> keep(this);
   if (mParts->state.autoHighlightObjects == HighlightA) return;
   mParts->state.autoHighlightObjects = HighlightA;
-  HighlightObjectsAtCursor(true);
+  mParts->highlight.RefreshAtCursor(true);
 }
 
 Variant MURTimelineRender::SelectedKey() const {
@@ -251,6 +251,14 @@ void MURTimelineRender::SetAutoSelectMode(std::int32_t ModeA) {
 
 bool MURTimelineRender::AllowObjectDragging() const {
   return mParts->state.allowObjectDragging;
+}
+
+bool MURTimelineRender::FollowAllStarts() const {
+  return mParts->state.followAllStarts;
+}
+
+void MURTimelineRender::SetFollowAllStarts(bool FollowA) {
+  mParts->state.followAllStarts = FollowA;
 }
 
 void MURTimelineRender::SetAllowObjectDragging(bool AllowA) {

@@ -146,6 +146,8 @@ class StubbornChild final : public ChildHost {
   void SetToolTipText(StringView) override { throw 1; }
   void Invalidate(const RectF&) override {}
   void InvalidateAll() override {}
+  void SetPointerShape(PointerShape) override {}
+  void CapturePointer(bool) override {}
   Rgba SystemColor(int) const override { return {}; }
 
   float top = 0, height = 0;

@@ -9,6 +9,7 @@ namespace mur {
 namespace {
 
 constexpr int kTwipsMode = 1;
+constexpr std::int16_t kNoDrops = 0;
 
 }  // namespace
 
@@ -35,7 +36,7 @@ void MURGraphicCanvas::Resized() {
 }
 
 Ref<ICanvasItem> MURGraphicCanvas::ItemAt(PointF PointA) const {
-  return Ref<ICanvasItem>(mScene->TopmostAt({PointA.x / PixelsPerUnit(), PointA.y / PixelsPerUnit()}));
+  return Ref<ICanvasItem>(mScene->TopmostAt(UnitsAt(PointA)));
 }
 
 String MURGraphicCanvas::ToolTipAt(PointF PointA) const {
@@ -48,6 +49,47 @@ String MURGraphicCanvas::ToolTipAt(PointF PointA) const {
 RectF MURGraphicCanvas::PixelBounds(const ICanvasItem& ItemA) const {
   const float pixels = PixelsPerUnit();
   return {ItemA.Left() * pixels, ItemA.Top() * pixels, ItemA.Width() * pixels, ItemA.Height() * pixels};
+}
+
+PointF MURGraphicCanvas::PointOn(const ICanvasItem& ItemA, PointF PointA) const {
+  const PointF at = UnitsAt(PointA);
+  return {at.x - ItemA.Left(), at.y - ItemA.Top()};
+}
+
+RectF MURGraphicCanvas::Area() const {
+  return {0, 0, mHost.Width() / ChildHost::kTwipsPerPixel, mHost.Height() / ChildHost::kTwipsPerPixel};
+}
+
+void MURGraphicCanvas::DraggedOver(DragInput& InputA, std::int16_t StateA) {
+  const Ref<MURGraphicCanvas> keep(this);
+  if (mOLEDropMode == kNoDrops) {
+    InputA.effect = kDropNone;
+    return;
+  }
+  auto& [data, effect, pointer] = InputA;
+  if (const Ref<ICanvasItem> item = ItemAt(pointer.at)) {
+    PointF at = PointOn(*item, pointer.at);
+    ItemOLEDragOver.Raise(item, data, effect, pointer.button, pointer.shift, at.x, at.y, StateA);
+  } else {
+    PointF at = UnitsAt(pointer.at);
+    OLEDragOver.Raise(data, effect, pointer.button, pointer.shift, at.x, at.y, StateA);
+  }
+}
+
+void MURGraphicCanvas::Dropped(DragInput& InputA) {
+  const Ref<MURGraphicCanvas> keep(this);
+  if (mOLEDropMode == kNoDrops) {
+    InputA.effect = kDropNone;
+    return;
+  }
+  auto& [data, effect, pointer] = InputA;
+  if (const Ref<ICanvasItem> item = ItemAt(pointer.at)) {
+    PointF at = PointOn(*item, pointer.at);
+    ItemOLEDragDrop.Raise(item, data, effect, pointer.button, pointer.shift, at.x, at.y);
+  } else {
+    PointF at = UnitsAt(pointer.at);
+    OLEDragDrop.Raise(data, effect, pointer.button, pointer.shift, at.x, at.y);
+  }
 }
 
 void MURGraphicCanvas::SetBackColor(OleColor ColorA) {

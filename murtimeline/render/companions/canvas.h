@@ -4,6 +4,7 @@
 #include <murtimeline/automation/keyed_sequence.h>
 #include <murtimeline/render/companions/canvas_interface.h>
 #include <murtimeline/render/companions/canvas_item.h>
+#include <murtimeline/render/companions/canvas_pointer.h>
 #include <murtimeline/render/port/child_host.h>
 #include <murtimeline/render/port/surface.h>
 
@@ -13,7 +14,7 @@ namespace mur {
 /// letter case is ignored; the spatial order behind painting and hit testing is brought up to date only when
 /// something is asked of it. It starts with scale mode 1 (twips), the platform's application workspace
 /// colour, tool tips shown and `OLEDropMode` 0.
-class MUR_API MURGraphicCanvas final : public IGraphicCanvas {
+class MUR_API MURGraphicCanvas final : public IGraphicCanvas, public PointerTarget, public DropTarget {
  public:
   /// `HostA` outlives the canvas.
   explicit MURGraphicCanvas(ChildHost& HostA);
@@ -30,6 +31,28 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas {
   String ToolTipAt(PointF PointA) const;
   /// Where an item lies, in pixels.
   RectF PixelBounds(const ICanvasItem& ItemA) const;
+
+  /// The same for a point, the other way round: pixels to canvas units.
+  PointF UnitsAt(PointF PointA) const { return {PointA.x / PixelsPerUnit(), PointA.y / PixelsPerUnit()}; }
+  /// A point (pixels) as an item sees it: canvas units from its left top corner.
+  PointF PointOn(const ICanvasItem& ItemA, PointF PointA) const;
+  /// The drawing area, in pixels.
+  RectF Area() const;
+  /// Whether an item is on this canvas still.
+  bool Holds(const ICanvasItem& ItemA) const { return GraphicByKey(ItemA.Key()).Get() == &ItemA; }
+  ChildHost& Host() const { return mHost; }
+
+  // The pointer: see CanvasPointer.
+  void PointerPressed(const PointerInput& InputA) override { mPointer.Press(InputA, false); }
+  void PointerDoublePressed(const PointerInput& InputA) override { mPointer.Press(InputA, true); }
+  void PointerMoved(const PointerInput& InputA) override { mPointer.Move(InputA); }
+  void PointerReleased(const PointerInput& InputA) override { mPointer.Release(InputA); }
+  void PointerLeft() override {}
+  void PointerLost() override { mPointer.Lose(); }
+  // What is dragged goes to the topmost visible item there or to the background; nothing is dropped while
+  // OLEDropMode is 0.
+  void DraggedOver(DragInput& InputA, std::int16_t StateA) override;
+  void Dropped(DragInput& InputA) override;
 
   /// Whether keys, positions and the spatial order agree; for tests.
   bool IsConsistent() const;
@@ -70,6 +93,7 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas {
   int mScaleMode = 1;
   std::int16_t mOLEDropMode = 0;
   bool mShowToolTips = true;
+  CanvasPointer mPointer{*this};
 };
 
 }  // namespace mur

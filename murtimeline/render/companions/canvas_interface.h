@@ -10,12 +10,45 @@
 
 namespace mur {
 
-/// The drawing canvas, as the control needs it. Pointer and drag reports join its events with the
-/// interaction.
+/// What listeners are told of a pointer or a drag; they may change every argument. Positions are canvas
+/// units, on an item from its own left top corner.
+template <class... Subject>
+using PointerEventOf =
+    Event<Subject..., std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/>;
+template <class... Subject>
+using DragDropEventOf = Event<Subject..., Ref<Object>& /*Data*/, std::int32_t& /*Effect*/,
+                              std::int16_t& /*Button*/, std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/>;
+template <class... Subject>
+using DragOverEventOf =
+    Event<Subject..., Ref<Object>& /*Data*/, std::int32_t& /*Effect*/, std::int16_t& /*Button*/,
+          std::int16_t& /*Shift*/, float& /*X*/, float& /*Y*/, std::int16_t& /*State*/>;
+
+/// The drawing canvas, as the control needs it.
+///
+/// Pointer and drag reports name the topmost visible item there, or the background. From the first press to
+/// the last release they name what was pressed, wherever the pointer is. A click follows the release of the
+/// button that was pressed last, where that is still on what was pressed.
 class MUR_API IGraphicCanvas : public Object {
  public:
+  using Item = const Ref<ICanvasItem>&;
+
   /// The canvas needs a full redraw. Raised by the canvas when its drawing area changes.
   Event<> Repaint;
+
+  Event<> Click;
+  Event<> DblClick;
+  PointerEventOf<> MouseDown;
+  PointerEventOf<> MouseMove;
+  PointerEventOf<> MouseUp;
+  DragDropEventOf<> OLEDragDrop;
+  DragOverEventOf<> OLEDragOver;
+  Event<Item> ItemClick;
+  Event<Item> ItemDblClick;
+  PointerEventOf<Item> ItemMouseDown;
+  PointerEventOf<Item> ItemMouseMove;
+  PointerEventOf<Item> ItemMouseUp;
+  DragDropEventOf<Item> ItemOLEDragDrop;
+  DragOverEventOf<Item> ItemOLEDragOver;
 
   virtual OleColor BackColor() const = 0;
   virtual void SetBackColor(OleColor ColorA) = 0;

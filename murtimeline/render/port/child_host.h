@@ -2,6 +2,7 @@
 
 #include <murtimeline/automation/export.h>
 #include <murtimeline/render/port/geometry.h>
+#include <murtimeline/render/port/pointer_input.h>
 #include <murtimeline/util/movable_control.h>
 
 namespace mur {
@@ -20,6 +21,10 @@ class MUR_API ChildHost : public MovableControl {
   virtual void Invalidate(const RectF& RectA) = 0;
   /// All of the child must be painted again soon.
   virtual void InvalidateAll() = 0;
+  virtual void SetPointerShape(PointerShape ShapeA) = 0;
+  /// While captured, the child hears of the pointer wherever that is. Asked for while a button is held; a
+  /// platform that does so anyway need not do anything.
+  virtual void CapturePointer(bool CaptureA) = 0;
   /// The colour that the platform's palette has now for a system colour index (0 to 30).
   virtual Rgba SystemColor(int IndexA) const = 0;
 };

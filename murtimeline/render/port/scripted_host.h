@@ -24,18 +24,24 @@ class MUR_API ScriptedChild final : public ChildHost {
   void SetToolTipText(StringView TextA) override { mToolTipText = TextA; }
   void Invalidate(const RectF& RectA) override { mInvalidated.push_back(RectA); }
   void InvalidateAll() override { ++mInvalidatedAll; }
+  void SetPointerShape(PointerShape ShapeA) override { mPointerShape = ShapeA; }
+  void CapturePointer(bool CaptureA) override { mHasPointer = CaptureA; }
   Rgba SystemColor(int IndexA) const override;
 
   /// The rectangles and the number of whole invalidations since the last ForgetInvalidations.
   const std::vector<RectF>& Invalidated() const { return mInvalidated; }
   std::size_t InvalidatedAll() const { return mInvalidatedAll; }
   void ForgetInvalidations();
+  PointerShape ShownPointer() const { return mPointerShape; }
+  bool HasPointer() const { return mHasPointer; }
 
  private:
   float mLeft = 0, mTop = 0, mWidth = 0, mHeight = 0;
   String mToolTipText;
   std::vector<RectF> mInvalidated;
   std::size_t mInvalidatedAll = 0;
+  PointerShape mPointerShape = PointerShape::Standard;
+  bool mHasPointer = false;
 };
 
 /// A host in memory, for tests and for drawing without a window. The scroller starts with its design height.
