@@ -191,6 +191,16 @@ void CoreDriver::Resize(const Ref<Object>& /*ObjectA*/, double /*WidthA*/, doubl
   throw std::invalid_argument("this object has no size");
 }
 
+void CoreDriver::Point(const Ref<Object>& /*ObjectA*/, const std::string& /*PartA*/,
+                       const std::string& /*ActionA*/, const PointerInput& /*InputA*/) {
+  throw std::invalid_argument("this object takes no pointer");
+}
+
+void CoreDriver::Drag(const Ref<Object>& /*ObjectA*/, const std::string& /*PartA*/,
+                      const std::string& /*ActionA*/, const DragInput& /*InputA*/) {
+  throw std::invalid_argument("nothing can be dragged over this object");
+}
+
 const Members* CoreDriver::MembersOf(const Object& ObjectA) const {
   if (dynamic_cast<const CMURTimeline*>(&ObjectA)) return &TimelineMembers();
   if (dynamic_cast<const CMURTimelineMedia*>(&ObjectA)) return &MediaMembers();

@@ -24,6 +24,10 @@ class CoreDriver : public ScenarioDriver {
   void Listen(const Ref<Object>& ObjectA, const Listener& ListenerA) override;
   std::vector<Variant> Enumerate(const Ref<Object>& ObjectA) override;
   void Resize(const Ref<Object>& ObjectA, double WidthA, double HeightA) override;
+  void Point(const Ref<Object>& ObjectA, const std::string& PartA, const std::string& ActionA,
+             const PointerInput& InputA) override;
+  void Drag(const Ref<Object>& ObjectA, const std::string& PartA, const std::string& ActionA,
+            const DragInput& InputA) override;
 
  protected:
   /// The members of an object's class; none for a class that is not known here.

@@ -54,6 +54,14 @@ const Members& ControlMembers() {
   return kMembers;
 }
 
+// A part of the control that takes something: its canvas or its scale; none for another word.
+template <class Target>
+Target* PartOf(const MURTimelineRender& ControlA, const std::string& PartA) {
+  const Companions& parts = ControlA.Collaborators();
+  if (PartA == "canvas") return dynamic_cast<Target*>(parts.canvas.Get());
+  return PartA == "scale" ? dynamic_cast<Target*>(parts.scroller.Get()) : nullptr;
+}
+
 }  // namespace
 
 CoreRenderDriver::~CoreRenderDriver() {
@@ -70,6 +78,27 @@ Ref<Object> CoreRenderDriver::Create(const std::string& ClassA) {
 void CoreRenderDriver::Listen(const Ref<Object>& ObjectA, const Listener& ListenerA) {
   auto* control = dynamic_cast<MURTimelineRender*>(ObjectA.Get());
   if (!control) return CoreDriver::Listen(ObjectA, ListenerA);
+  ListenTo(control->Click, "Click", ListenerA);
+  ListenTo(control->DblClick, "DblClick", ListenerA);
+  ListenTo(control->MouseDown, "MouseDown", ListenerA);
+  ListenTo(control->MouseMove, "MouseMove", ListenerA);
+  ListenTo(control->MouseUp, "MouseUp", ListenerA);
+  ListenTo(control->OLEDragDrop, "OLEDragDrop", ListenerA);
+  ListenTo(control->OLEDragOver, "OLEDragOver", ListenerA);
+  ListenTo(control->TLObjectClick, "TLObjectClick", ListenerA);
+  ListenTo(control->TLObjectDblClick, "TLObjectDblClick", ListenerA);
+  ListenTo(control->TLObjectMouseDown, "TLObjectMouseDown", ListenerA);
+  ListenTo(control->TLObjectMouseMove, "TLObjectMouseMove", ListenerA);
+  ListenTo(control->TLObjectMouseUp, "TLObjectMouseUp", ListenerA);
+  ListenTo(control->TLObjectOLEDragDrop, "TLObjectOLEDragDrop", ListenerA);
+  ListenTo(control->TLObjectOLEDragOver, "TLObjectOLEDragOver", ListenerA);
+  ListenTo(control->CursorClick, "CursorClick", ListenerA);
+  ListenTo(control->CursorDblClick, "CursorDblClick", ListenerA);
+  ListenTo(control->CursorMouseDown, "CursorMouseDown", ListenerA);
+  ListenTo(control->CursorMouseMove, "CursorMouseMove", ListenerA);
+  ListenTo(control->CursorMouseUp, "CursorMouseUp", ListenerA);
+  ListenTo(control->CursorOLEDragDrop, "CursorOLEDragDrop", ListenerA);
+  ListenTo(control->CursorOLEDragOver, "CursorOLEDragOver", ListenerA);
   ListenTo(control->CursorTimeChange, "CursorTimeChange", ListenerA);
   ListenTo(control->TimeScaleClick, "TimeScaleClick", ListenerA);
   ListenTo(control->TimeScaleDblClick, "TimeScaleDblClick", ListenerA);
@@ -91,6 +120,38 @@ void CoreRenderDriver::Resize(const Ref<Object>& ObjectA, double WidthA, double 
     return control.control->Resize();
   }
   CoreDriver::Resize(ObjectA, WidthA, HeightA);
+}
+
+void CoreRenderDriver::Point(const Ref<Object>& ObjectA, const std::string& PartA, const std::string& ActionA,
+                             const PointerInput& InputA) {
+  const auto* control = dynamic_cast<const MURTimelineRender*>(ObjectA.Get());
+  auto* target = control ? PartOf<PointerTarget>(*control, PartA) : nullptr;
+  if (!target) return CoreDriver::Point(ObjectA, PartA, ActionA, InputA);
+  static const std::map<std::string, void (*)(PointerTarget&, const PointerInput&)> kActions = {
+      {"press", [](PointerTarget& part, const PointerInput& input) { part.PointerPressed(input); }},
+      {"double", [](PointerTarget& part, const PointerInput& input) { part.PointerDoublePressed(input); }},
+      {"move", [](PointerTarget& part, const PointerInput& input) { part.PointerMoved(input); }},
+      {"release", [](PointerTarget& part, const PointerInput& input) { part.PointerReleased(input); }},
+      {"leave", [](PointerTarget& part, const PointerInput&) { part.PointerLeft(); }},
+      {"lose", [](PointerTarget& part, const PointerInput&) { part.PointerLost(); }},
+  };
+  const auto found = kActions.find(ActionA);
+  if (found == kActions.end()) throw std::invalid_argument("a pointer does not " + ActionA);
+  found->second(*target, InputA);
+}
+
+void CoreRenderDriver::Drag(const Ref<Object>& ObjectA, const std::string& PartA, const std::string& ActionA,
+                            const DragInput& InputA) {
+  const auto* control = dynamic_cast<const MURTimelineRender*>(ObjectA.Get());
+  auto* target = control ? PartOf<DropTarget>(*control, PartA) : nullptr;
+  if (!target) return CoreDriver::Drag(ObjectA, PartA, ActionA, InputA);
+  static const std::map<std::string, std::int16_t> kStates = {
+      {"enter", kDragEnters}, {"leave", kDragLeaves}, {"over", kDragIsOver}};
+  DragInput input = InputA;
+  if (ActionA == "drop") return target->Dropped(input);
+  const auto found = kStates.find(ActionA);
+  if (found == kStates.end()) throw std::invalid_argument("nothing dragged can " + ActionA);
+  target->DraggedOver(input, found->second);
 }
 
 const Members* CoreRenderDriver::MembersOf(const Object& ObjectA) const {

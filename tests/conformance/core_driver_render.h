@@ -17,6 +17,10 @@ class CoreRenderDriver final : public CoreDriver {
   Ref<Object> Create(const std::string& ClassA) override;
   void Listen(const Ref<Object>& ObjectA, const Listener& ListenerA) override;
   void Resize(const Ref<Object>& ObjectA, double WidthA, double HeightA) override;
+  void Point(const Ref<Object>& ObjectA, const std::string& PartA, const std::string& ActionA,
+             const PointerInput& InputA) override;
+  void Drag(const Ref<Object>& ObjectA, const std::string& PartA, const std::string& ActionA,
+            const DragInput& InputA) override;
 
  protected:
   const binding::Members* MembersOf(const Object& ObjectA) const override;

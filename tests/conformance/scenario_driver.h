@@ -6,6 +6,7 @@
 
 #include <murtimeline/automation/object.h>
 #include <murtimeline/automation/variant.h>
+#include <murtimeline/render/port/pointer_input.h>
 
 namespace mur::test {
 
@@ -34,6 +35,13 @@ class ScenarioDriver {
   virtual std::vector<Variant> Enumerate(const Ref<Object>& ObjectA) = 0;
   /// Gives a control its size, in the control's own units.
   virtual void Resize(const Ref<Object>& ObjectA, double WidthA, double HeightA) = 0;
+  /// Lets the pointer press, double, move, release, leave or lose at the control's canvas or scale. A word
+  /// that names no such thing throws std::invalid_argument, here and below.
+  virtual void Point(const Ref<Object>& ObjectA, const std::string& PartA, const std::string& ActionA,
+                     const PointerInput& InputA) = 0;
+  /// Brings something from elsewhere to the control's canvas: enter, over, leave or drop.
+  virtual void Drag(const Ref<Object>& ObjectA, const std::string& PartA, const std::string& ActionA,
+                    const DragInput& InputA) = 0;
 };
 
 }  // namespace mur::test

@@ -56,6 +56,8 @@ class Parser {
         {"do", {StatementKind::Do, &Parser::ParseCall}},
         {"listen", {StatementKind::Listen, &Parser::ParseListen}},
         {"resize", {StatementKind::Resize, &Parser::ParseResize}},
+        {"pointer", {StatementKind::Pointer, &Parser::ParsePointer}},
+        {"drag", {StatementKind::Drag, &Parser::ParseDrag}},
         {"each", {StatementKind::Each, &Parser::ParseEach}},
         {"expect", {StatementKind::ExpectEvents, &Parser::ParseExpect}},
     };
@@ -118,6 +120,21 @@ class Parser {
     if (WordsA.size() != 3) Fail("resize OBJECT WIDTH HEIGHT");
     StatementA.name = WordsA[0];
     StatementA.arguments = {WordsA[1], WordsA[2]};
+  }
+
+  // What happened comes first among the arguments.
+  void ParsePointer(Statement& StatementA, Words& WordsA) {
+    ParseCall(StatementA, WordsA);
+    const Words& words = StatementA.arguments;
+    const bool isOver = words.size() == 1 && (words[0] == "lose" || words[0] == "leave");
+    if (!isOver && words.size() != 5)
+      Fail("pointer CONTROL.PART press|double|move|release BUTTON SHIFT X,Y or lose or leave");
+  }
+
+  void ParseDrag(Statement& StatementA, Words& WordsA) {
+    ParseCall(StatementA, WordsA);
+    if (StatementA.arguments.size() != 6)
+      Fail("drag CONTROL.PART enter|over|leave|drop EFFECT BUTTON SHIFT X,Y");
   }
 
   void ParseEach(Statement& StatementA, Words& WordsA) {

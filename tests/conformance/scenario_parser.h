@@ -7,7 +7,20 @@
 namespace mur::test {
 
 /// What one line of a scenario asks for. See README.md for the language.
-enum class StatementKind { New, Let, Get, Put, Do, Listen, Resize, Each, ExpectEvents, ExpectText };
+enum class StatementKind {
+  New,
+  Let,
+  Get,
+  Put,
+  Do,
+  Listen,
+  Resize,
+  Pointer,
+  Drag,
+  Each,
+  ExpectEvents,
+  ExpectText
+};
 
 /// Values stay the words that were written: what they mean depends on the objects of a section.
 struct Statement {
@@ -15,7 +28,7 @@ struct Statement {
   int line = 0;
   std::string name;    // what New and Let name; the object of all others
   std::string source;  // the class of New, the object of Let
-  std::string member;
+  std::string member;  // of Pointer and Drag: the part of the control that is met
   std::vector<std::string> arguments;
   std::vector<std::string> expected;  // values, event lines or text lines
   bool hasExpectation = false;

@@ -1,6 +1,7 @@
 #include "tests/conformance/scenario_player.h"
 
 #include <murtimeline/automation/error.h>
+#include <murtimeline/automation/narrow.h>
 
 #include "tests/conformance/scenario_values.h"
 
@@ -55,6 +56,10 @@ class Player {
                               });
       case StatementKind::Resize:
         return mDriver.Resize(mValues.Named(StatementA.name), Number(StatementA, 0), Number(StatementA, 1));
+      case StatementKind::Pointer:
+        return Point(StatementA);
+      case StatementKind::Drag:
+        return Drag(StatementA);
       case StatementKind::Each:
         return ExpectEach(StatementA);
       case StatementKind::ExpectEvents:
@@ -66,6 +71,29 @@ class Player {
 
   double Number(const Statement& StatementA, std::size_t IndexA) const {
     return mValues.Parse(StatementA.arguments[IndexA]).Number().value();
+  }
+
+  // The button, the modifier keys and the place, from an argument on.
+  PointerInput Input(const Statement& StatementA, std::size_t IndexA) const {
+    PointerInput input;
+    if (IndexA + 4 > StatementA.arguments.size()) return input;
+    input.button = Narrow<std::int16_t>(Number(StatementA, IndexA));
+    input.shift = Narrow<std::int16_t>(Number(StatementA, IndexA + 1));
+    input.at = {NarrowToSingle(Number(StatementA, IndexA + 2)),
+                NarrowToSingle(Number(StatementA, IndexA + 3))};
+    return input;
+  }
+
+  void Point(const Statement& StatementA) {
+    mDriver.Point(mValues.Named(StatementA.name), StatementA.member, StatementA.arguments[0],
+                  Input(StatementA, 1));
+  }
+
+  void Drag(const Statement& StatementA) {
+    DragInput input;
+    input.effect = Narrow<std::int32_t>(Number(StatementA, 1));
+    input.pointer = Input(StatementA, 2);
+    mDriver.Drag(mValues.Named(StatementA.name), StatementA.member, StatementA.arguments[0], input);
   }
 
   Variant Call(const Statement& StatementA, const std::string& ObjectA) {

@@ -116,6 +116,10 @@ TEST(ScenarioLanguage, ReportsMalformedFilesByLine) {
   EXPECT_EQ(ParseErrorOf("== a\nget G.Count\n"), "x.scenario:2: OBJECT.MEMBER ARGUMENTS = VALUE");
   EXPECT_EQ(ParseErrorOf("== a\nget G.Count =\n"), "x.scenario:2: one value expected after \"=\"");
   EXPECT_EQ(ParseErrorOf("== a\ndo Count\n"), "x.scenario:2: OBJECT.MEMBER expected");
+  EXPECT_EQ(ParseErrorOf("== a\npointer C.canvas press 1 0\n"),
+            "x.scenario:2: pointer CONTROL.PART press|double|move|release BUTTON SHIFT X,Y or lose or leave");
+  EXPECT_EQ(ParseErrorOf("== a\ndrag C.canvas drop\n"),
+            "x.scenario:2: drag CONTROL.PART enter|over|leave|drop EFFECT BUTTON SHIFT X,Y");
   EXPECT_EQ(ParseErrorOf("== a\nlet G\n"), "x.scenario:2: let NAME = OBJECT.MEMBER ARGUMENTS");
   EXPECT_EQ(ParseErrorOf("== a\nput G.Tag = \"x\n"), "x.scenario:2: no closing \"");
   EXPECT_EQ(ParseErrorOf("== a\nexpect events\n"),
