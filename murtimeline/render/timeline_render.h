@@ -172,6 +172,10 @@ class MUR_API MURTimelineRender final : public Object {
   String ToolTipText() const;
   void SetToolTipText(StringView TextA);
 
+  /// Lets the user edit the displayed times in the thread's one edit-times dialog and returns when it was
+  /// closed; brings that to the front while it is open. Nothing on a host without windows.
+  void ShowEditor();
+
   /// The companions at work, for the face that paints them.
   const Companions& Collaborators() const;
 

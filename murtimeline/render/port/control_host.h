@@ -1,6 +1,7 @@
 #pragma once
 
 #include <murtimeline/automation/export.h>
+#include <murtimeline/dialogs/dialog_form.h>
 #include <murtimeline/render/port/child_host.h>
 
 namespace mur {
@@ -15,6 +16,8 @@ class MUR_API ControlHost {
   virtual float ScaleHeight() const = 0;
   virtual ChildHost& ScrollerHost() = 0;
   virtual ChildHost& CanvasHost() = 0;
+  /// What the control's dialogs are made of; none for a host without windows.
+  virtual DialogForms* Forms() { return nullptr; }
 };
 
 }  // namespace mur

@@ -55,13 +55,17 @@ class MUR_API ScriptedHost final : public ControlHost {
   float ScaleHeight() const override { return mScaleHeight; }
   ScriptedChild& ScrollerHost() override { return mScroller; }
   ScriptedChild& CanvasHost() override { return mCanvas; }
+  DialogForms* Forms() override { return mForms; }
 
   void SetScaleWidth(float WidthA) { mScaleWidth = WidthA; }
   void SetScaleHeight(float HeightA) { mScaleHeight = HeightA; }
+  /// None at first; they outlive the host.
+  void SetForms(DialogForms* FormsA) { mForms = FormsA; }
 
  private:
   float mScaleWidth = 0, mScaleHeight = 0;
   ScriptedChild mScroller, mCanvas;
+  DialogForms* mForms = nullptr;
 };
 
 }  // namespace mur
