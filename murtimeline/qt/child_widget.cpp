@@ -1,5 +1,6 @@
 #include <QHelpEvent>
 #include <QPaintEvent>
+#include <QPointer>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -34,11 +35,16 @@ ChildWidget::ChildWidget(TextMeasures& MeasuresA, QWidget* ParentA) : QWidget(Pa
 
 bool ChildWidget::event(QEvent* EventA) {
   bool handled = true;
-  GuardEvent([&] {
-    handled = EventA->type() == QEvent::ToolTip ? ShowToolTip(static_cast<const QHelpEvent&>(*EventA))
-                                                : QWidget::event(EventA);
-  });
+  GuardEvent([&] { handled = HandleEvent(*EventA); });
   return handled;
+}
+
+// What the pointer does may end this widget.
+bool ChildWidget::HandleEvent(QEvent& EventA) {
+  if (EventA.type() == QEvent::ToolTip) return ShowToolTip(static_cast<const QHelpEvent&>(EventA));
+  const QPointer<ChildWidget> self(this);
+  const bool isDone = mPointer && mPointer->Handle(EventA);
+  return isDone || !self || QWidget::event(&EventA);
 }
 
 void ChildWidget::paintEvent(QPaintEvent* EventA) {

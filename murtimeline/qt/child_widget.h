@@ -2,9 +2,11 @@
 
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 #include <murtimeline/automation/string.h>
 #include <murtimeline/qt/painter_surface.h>
+#include <murtimeline/qt/pointer_router.h>
 
 class QHelpEvent;
 
@@ -16,8 +18,8 @@ struct HoverText {
   RectF area;
 };
 
-/// The window of one companion: it paints all of itself at once and shows tool tips for what lies under the
-/// pointer.
+/// The window of one companion: it paints all of itself at once, hands on what the mouse does and shows tool
+/// tips for what lies under the pointer.
 class ChildWidget final : public QWidget {
  public:
   using PaintFunction = std::function<void(Surface& SurfaceA, const RectF& DirtyA)>;
@@ -27,6 +29,8 @@ class ChildWidget final : public QWidget {
   ChildWidget(TextMeasures& MeasuresA, QWidget* ParentA);
 
   void SetPaint(PaintFunction PaintA) { mPaint = std::move(PaintA); }
+  /// `TargetA` outlives the widget; it keeps itself while it is told something.
+  void SetPointer(PointerTarget& TargetA) { mPointer = std::make_unique<PointerRouter>(*this, TargetA); }
   void SetToolTip(ToolTipFunction ToolTipA) { mToolTip = std::move(ToolTipA); }
 
  protected:
@@ -34,11 +38,13 @@ class ChildWidget final : public QWidget {
   void paintEvent(QPaintEvent* EventA) override;
 
  private:
+  bool HandleEvent(QEvent& EventA);
   bool ShowToolTip(const QHelpEvent& EventA);
 
   TextMeasures& mMeasures;
   PaintFunction mPaint;
   ToolTipFunction mToolTip;
+  std::unique_ptr<PointerRouter> mPointer;
 };
 
 }  // namespace mur::qt

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <murtimeline/qt/hosted_child.h>
 #include <murtimeline/qt/palette_colors.h>
@@ -76,7 +77,23 @@ void HostedChild::InvalidateAll() {
 }
 
 void HostedChild::SetPointerShape(PointerShape ShapeA) {
-  if (mWidget) mWidget->setCursor(CursorOf(ShapeA));
+  mShape = ShapeA;
+  ShowShape();
+}
+
+void HostedChild::SetShapeInstead(std::optional<PointerShape> ShapeA) {
+  mShapeInstead = ShapeA;
+  ShowShape();
+}
+
+// The standard shape is the one that the host gave the widget.
+void HostedChild::ShowShape() {
+  const PointerShape shape = mShapeInstead.value_or(mShape);
+  if (!mWidget || std::exchange(mShown, shape) == shape) return;
+  if (shape == PointerShape::Standard)
+    mWidget->unsetCursor();
+  else
+    mWidget->setCursor(CursorOf(shape));
 }
 
 Rgba HostedChild::SystemColor(int IndexA) const {

@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 #include <murtimeline/automation/export.h>
 #include <murtimeline/automation/object.h>
@@ -30,6 +31,8 @@ class MUR_API HostedChild final : public ChildHost, public HostFace {
   void Invalidate(const RectF& RectA) override;
   void InvalidateAll() override;
   void SetPointerShape(PointerShape ShapeA) override;
+  /// While given, this shape shows in place of the companion's.
+  void SetShapeInstead(std::optional<PointerShape> ShapeA);
   /// Nothing to do: a widget hears of the pointer while a button that was pressed on it is held.
   void CapturePointer(bool /*CaptureA*/) override {}
   Rgba SystemColor(int IndexA) const override;
@@ -42,12 +45,16 @@ class MUR_API HostedChild final : public ChildHost, public HostFace {
   void SetResized(std::function<void()> ResizedA) { mResized = std::move(ResizedA); }
 
  private:
+  void ShowShape();
   void Place(float LeftA, float TopA, float WidthA, float HeightA);
 
   QPointer<QWidget> mWidget;
   float mLeft = 0, mTop = 0, mWidth = 0, mHeight = 0;
   String mToolTipText;
   std::function<void()> mResized;
+  PointerShape mShape = PointerShape::Standard;
+  std::optional<PointerShape> mShapeInstead;
+  PointerShape mShown = PointerShape::Standard;
   bool mMovesWidget = true;
 };
 

@@ -28,7 +28,7 @@ std::optional<VisibleRange> SpanOf(const IMURTimelineObject& ObjectA) {
 }  // namespace
 
 Navigation::Navigation(Ref<MURTimelineRender> ControlA, Ref<MURGraphicCanvas> CanvasA,
-                       const ChildHost& CanvasHostA, QWidget& ScaleA, QWidget& CanvasWidgetA)
+                       HostedChild& CanvasHostA, QWidget& ScaleA, QWidget& CanvasWidgetA)
     : mControl(std::move(ControlA)),
       mCanvas(std::move(CanvasA)),
       mCanvasHost(CanvasHostA),
@@ -147,7 +147,7 @@ void Navigation::BeginDrag(const QMouseEvent& EventA) {
   const PointF point{static_cast<float>(at.x()), static_cast<float>(at.y())};
   if (EventA.button() != Qt::LeftButton || mCanvas->ItemAt(point)) return;
   mDrag = Drag{at.x(), Range().Sane()};
-  mCanvasWidget.setCursor(Qt::ClosedHandCursor);
+  mCanvasHost.SetShapeInstead(PointerShape::Moves);
 }
 
 // Always from where the drag began, so that nothing adds up: back there is back at the same range.
@@ -160,7 +160,7 @@ void Navigation::FollowDrag(const QMouseEvent& EventA) {
 void Navigation::EndDrag() {
   if (!mDrag) return;
   mDrag.reset();
-  mCanvasWidget.unsetCursor();
+  mCanvasHost.SetShapeInstead(std::nullopt);
 }
 
 }  // namespace mur::qt

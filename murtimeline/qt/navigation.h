@@ -3,6 +3,7 @@
 #include <QObject>
 #include <optional>
 
+#include <murtimeline/qt/hosted_child.h>
 #include <murtimeline/qt/visible_range.h>
 #include <murtimeline/render/companions/canvas.h>
 #include <murtimeline/render/timeline_render.h>
@@ -21,7 +22,7 @@ class Navigation final : public QObject {
 
  public:
   /// `CanvasHostA` is the place of the canvas; it and the widgets outlive the navigation.
-  Navigation(Ref<MURTimelineRender> ControlA, Ref<MURGraphicCanvas> CanvasA, const ChildHost& CanvasHostA,
+  Navigation(Ref<MURTimelineRender> ControlA, Ref<MURGraphicCanvas> CanvasA, HostedChild& CanvasHostA,
              QWidget& ScaleA, QWidget& CanvasWidgetA);
   ~Navigation() override;
 
@@ -63,7 +64,7 @@ class Navigation final : public QObject {
 
   Ref<MURTimelineRender> mControl;
   Ref<MURGraphicCanvas> mCanvas;
-  const ChildHost& mCanvasHost;
+  HostedChild& mCanvasHost;
   QWidget& mScale;
   QWidget& mCanvasWidget;
   ZoomTrail mTrail;

@@ -57,7 +57,7 @@ TimelineWidget::Parts::Parts(QWidget& OwnerA)
       canvasHost(*new HostedChild(*canvasWidget)),
       scroller(MakeOn<MURTimelineScroll>(scaleHost)),
       canvas(MakeOn<MURGraphicCanvas>(canvasHost)),
-      host(*new WidgetHost(scaleHost, canvasHost)),
+      host(*new WidgetHost(OwnerA, scaleHost, canvasHost)),
       control(MakeControl(host, CompanionsOf(canvas, scroller))),
       navigation(control, canvas, canvasHost, *scaleWidget, *canvasWidget) {
   constexpr float kScaleDesignHeight = 600;  // twips
@@ -68,6 +68,8 @@ TimelineWidget::Parts::Parts(QWidget& OwnerA)
   };
   scaleWidget->SetPaint(paint(*scroller));
   canvasWidget->SetPaint(paint(*canvas));
+  canvasWidget->SetPointer(*canvas);
+  if (auto* pointer = dynamic_cast<PointerTarget*>(scroller.Get())) scaleWidget->SetPointer(*pointer);
   scaleWidget->SetToolTip([this](PointF) { return HoverText{scaleHost.ToolTipText(), {}}; });
   canvasWidget->SetToolTip([this](PointF point) {
     const Ref<ICanvasItem> item = canvas->ItemAt(point);
@@ -81,47 +83,19 @@ void TimelineWidget::Parts::LayOut(QSizeF SizeA) {
   ResumeNext([&] { keep->Resize(); });
 }
 
-TimelineWidget::TimelineWidget(QWidget* parent) : QWidget(parent), mParts(std::make_unique<Parts>(*this)) {
-  forwardEvents();
+TimelineWidget::TimelineWidget(QWidget* parent)
+    : TimelineEvents(parent), mParts(std::make_unique<Parts>(*this)) {
+  mParts->connections = forward(*mParts->control);
+  mParts->connections.push_back(mParts->control->CursorTimeChange.Connect(
+      [this](Date time) { Q_EMIT cursorTimeChange(ToQDateTime(time)); }));
+  mParts->connections.push_back(mParts->scroller->VisibleRangeChanged.Connect([this] {
+    if (!mParts->navigation.IsMoving()) Q_EMIT visibleRangeChanged();
+  }));
+  connect(&mParts->navigation, &Navigation::moved, this, &TimelineWidget::visibleRangeChanged);
   layOut();
 }
 
 TimelineWidget::~TimelineWidget() = default;
-
-void TimelineWidget::forwardEvents() {
-  const auto listen = [this](auto& event, auto handler) {
-    mParts->connections.push_back(event.Connect(handler));
-  };
-  const auto forwardPointer = [&](MURTimelineRender::PointerEvent& event, auto signal) {
-    listen(event, [this, signal](qint16& button, qint16& shift, float& x, float& y) {
-      Q_EMIT(this->*signal)(button, shift, x, y);
-    });
-  };
-  const auto forwardMarker = [&](Event<const Variant&>& event, auto signal) {
-    listen(event, [this, signal](const Variant& key) { Q_EMIT(this->*signal)(ToQVariant(key)); });
-  };
-  const auto forwardMarkerPointer = [&](MURTimelineRender::MarkerPointerEvent& event, auto signal) {
-    listen(event, [this, signal](const Variant& key, qint16 button, qint16 shift) {
-      Q_EMIT(this->*signal)(ToQVariant(key), button, shift);
-    });
-  };
-  MURTimelineRender& control = *mParts->control;
-  listen(control.CursorTimeChange, [this](Date time) { Q_EMIT cursorTimeChange(ToQDateTime(time)); });
-  listen(control.TimeScaleClick, [this] { Q_EMIT timeScaleClick(); });
-  listen(control.TimeScaleDblClick, [this] { Q_EMIT timeScaleDblClick(); });
-  forwardPointer(control.TimeScaleMouseDown, &TimelineWidget::timeScaleMouseDown);
-  forwardPointer(control.TimeScaleMouseMove, &TimelineWidget::timeScaleMouseMove);
-  forwardPointer(control.TimeScaleMouseUp, &TimelineWidget::timeScaleMouseUp);
-  forwardMarker(control.MarkerClick, &TimelineWidget::markerClick);
-  forwardMarker(control.MarkerDblClick, &TimelineWidget::markerDblClick);
-  forwardMarkerPointer(control.MarkerMouseDown, &TimelineWidget::markerMouseDown);
-  forwardMarkerPointer(control.MarkerMouseMove, &TimelineWidget::markerMouseMove);
-  forwardMarkerPointer(control.MarkerMouseUp, &TimelineWidget::markerMouseUp);
-  listen(mParts->scroller->VisibleRangeChanged, [this] {
-    if (!mParts->navigation.IsMoving()) Q_EMIT visibleRangeChanged();
-  });
-  connect(&mParts->navigation, &Navigation::moved, this, &TimelineWidget::visibleRangeChanged);
-}
 
 // Qt tells a hidden widget of its size only when it is shown; this is asked before anything that depends on
 // it.
@@ -183,17 +157,17 @@ QSize TimelineWidget::minimumSizeHint() const {
 
 bool TimelineWidget::event(QEvent* event) {
   bool handled = true;
-  GuardEvent([&] { handled = QWidget::event(event); });
+  GuardEvent([&] { handled = TimelineEvents::event(event); });
   return handled;
 }
 
 void TimelineWidget::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
+  TimelineEvents::resizeEvent(event);
   layOut();
 }
 
 void TimelineWidget::changeEvent(QEvent* event) {
-  QWidget::changeEvent(event);
+  TimelineEvents::changeEvent(event);
   switch (event->type()) {
     case QEvent::FontChange:
     case QEvent::StyleChange:

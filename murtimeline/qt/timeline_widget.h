@@ -2,29 +2,25 @@
 
 #include <QDateTime>
 #include <QImage>
-#include <QVariant>
-#include <QWidget>
 #include <memory>
 
 #include <murtimeline/automation/export.h>
-#include <murtimeline/render/timeline_render.h>
+#include <murtimeline/qt/timeline_events.h>
 
 class QPainter;
 
 namespace mur::qt {
 
 /// A time line on a widget: hosts a MURTimelineRender, whose members are this widget's properties and methods
-/// under Qt's habits of naming, and whose events are its signals.
+/// under Qt's habits of naming, and whose events are its signals (see TimelineEvents).
 ///
-/// Signals are emitted inside the call that causes them. Arguments that are references can be changed by
-/// handlers; connect to those directly. A handler may delete the widget, directly where a call of the host's
-/// caused the signal, by `deleteLater` where an event of Qt's did. What a handler throws inside an event of
-/// Qt's ends there with a warning.
+/// A handler may delete the widget, directly where a call of the host's caused the signal, by `deleteLater`
+/// where an event of Qt's did. What a handler throws inside an event of Qt's ends there with a warning.
 ///
 /// The widget is laid out as soon as it has a size, shown or not; a hidden one catches up at the next call to
 /// it. Heights and gaps of bars are pixels, timeScaleHeight and trackTop twips (15 to a pixel), colours
 /// 32-bit automation colours, times wall clocks to the millisecond; `control` gives all of them as they are.
-class MUR_API TimelineWidget : public QWidget {
+class MUR_API TimelineWidget : public TimelineEvents {
   Q_OBJECT
   Q_PROPERTY(QDateTime worldTimeT0 READ worldTimeT0 WRITE setWorldTimeT0 NOTIFY visibleRangeChanged)
   Q_PROPERTY(double duration READ duration WRITE setDuration NOTIFY visibleRangeChanged)
@@ -53,6 +49,7 @@ class MUR_API TimelineWidget : public QWidget {
   Q_PROPERTY(QVariant selectedKey READ selectedKey)
   Q_PROPERTY(int autoSelectMode READ autoSelectMode WRITE setAutoSelectMode)
   Q_PROPERTY(bool allowObjectDragging READ allowObjectDragging WRITE setAllowObjectDragging)
+  Q_PROPERTY(bool followAllStarts READ followAllStarts WRITE setFollowAllStarts)
   Q_PROPERTY(qint16 oleDropMode READ oleDropMode WRITE setOleDropMode)
   Q_PROPERTY(bool showToolTips READ showToolTips WRITE setShowToolTips)
   Q_PROPERTY(QString toolTipText READ toolTipText WRITE setToolTipText)
@@ -122,6 +119,9 @@ class MUR_API TimelineWidget : public QWidget {
   void setAutoSelectMode(int mode);
   bool allowObjectDragging() const;
   void setAllowObjectDragging(bool allow);
+  /// See MURTimelineRender::FollowAllStarts.
+  bool followAllStarts() const;
+  void setFollowAllStarts(bool follow);
   qint16 oleDropMode() const;
   void setOleDropMode(qint16 mode);
   bool showToolTips() const;
@@ -164,21 +164,14 @@ class MUR_API TimelineWidget : public QWidget {
   /// The same onto any painter, from its origin on.
   void renderToPainter(QPainter& painter, QSizeF size);
 
+  /// Lets the user edit start and duration in a dialog; see MURTimelineRender::ShowEditor.
+  Q_INVOKABLE void showEditor();
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
  Q_SIGNALS:
   void cursorTimeChange(const QDateTime& cursorTime);
-  void timeScaleClick();
-  void timeScaleDblClick();
-  void timeScaleMouseDown(qint16& button, qint16& shift, float& x, float& y);
-  void timeScaleMouseMove(qint16& button, qint16& shift, float& x, float& y);
-  void timeScaleMouseUp(qint16& button, qint16& shift, float& x, float& y);
-  void markerClick(const QVariant& markerKeyIndex);
-  void markerDblClick(const QVariant& markerKeyIndex);
-  void markerMouseDown(const QVariant& markerKeyIndex, qint16 button, qint16 shift);
-  void markerMouseMove(const QVariant& markerKeyIndex, qint16 button, qint16 shift);
-  void markerMouseUp(const QVariant& markerKeyIndex, qint16 button, qint16 shift);
   /// Start or duration was written, by whomever; once for a move of the navigation.
   void visibleRangeChanged();
 
@@ -190,7 +183,6 @@ class MUR_API TimelineWidget : public QWidget {
  private:
   struct Parts;
 
-  void forwardEvents();
   void layOut() const;
 
   std::unique_ptr<Parts> mParts;

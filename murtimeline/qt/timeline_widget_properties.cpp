@@ -196,6 +196,14 @@ void TimelineWidget::setAllowObjectDragging(bool allow) {
   control()->SetAllowObjectDragging(allow);
 }
 
+bool TimelineWidget::followAllStarts() const {
+  return control()->FollowAllStarts();
+}
+
+void TimelineWidget::setFollowAllStarts(bool follow) {
+  control()->SetFollowAllStarts(follow);
+}
+
 qint16 TimelineWidget::oleDropMode() const {
   return control()->OLEDropMode();
 }
