@@ -1,6 +1,5 @@
 #include "viewer/headless.h"
 
-#include <QSaveFile>
 #include <limits>
 #include <optional>
 #include <ostream>
@@ -10,6 +9,7 @@
 #include "viewer/event_log.h"
 #include "viewer/exact_table.h"
 #include "viewer/headless_control.h"
+#include "viewer/output_file.h"
 #include "viewer/pictures.h"
 #include "viewer/presentation.h"
 
@@ -23,8 +23,8 @@ LineSink LinesTo(std::ostream& OutA) {
 void PrintDump(const CMURTimeline& TimelineA, double RateA, std::ostream& OutA) {
   constexpr std::int32_t kMostInDump = std::numeric_limits<std::int16_t>::max();
   if (TimelineA.Count() > kMostInDump)
-    throw HeadlessError("--dump cannot list more than " + std::to_string(kMostInDump) +
-                        " objects, and the file has " + std::to_string(TimelineA.Count()));
+    throw OutputError("--dump cannot list more than " + std::to_string(kMostInDump) +
+                      " objects, and the file has " + std::to_string(TimelineA.Count()));
   OutA << ToUtf8(TimelineA.AsString({})) << '\n';
   WriteExactTable(TimelineA, RateA, LinesTo(OutA));
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,6 +13,20 @@
 
 namespace mur::viewer {
 
+/// An edit as it was read, for writing it back.
+struct EditSource {
+  struct Item {
+    String key;  // of its object
+    ItemOrigin origin;
+    bool isTrack = false;
+    Date start;
+  };
+
+  QByteArray text;
+  std::vector<Item> items;
+  std::vector<double> markerTimes;  // in the order of the file's markers
+};
+
 /// What a file says beside the objects that went into the time line.
 struct LoadedFile {
   FileKind kind = FileKind::OpenTimelineIO;
@@ -19,6 +35,7 @@ struct LoadedFile {
   String title;
   std::vector<Marker> markers;
   std::vector<std::string> notes;  // what was left out, in words
+  std::optional<EditSource> edit;  // where the file can be written back
 };
 
 /// Reads a file and puts its content in the place of what the time line holds. When the file cannot be read

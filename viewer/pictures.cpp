@@ -3,21 +3,14 @@
 #include <QBuffer>
 #include <QGuiApplication>
 #include <QImage>
-#include <QSaveFile>
 
 #include <murtimeline/qt/painter_surface.h>
 #include <murtimeline/render/port/svg_surface.h>
 
-#include "viewer/headless.h"
+#include "viewer/output_file.h"
 
 namespace mur::viewer {
 namespace {
-
-void WriteFile(const QString& PathA, const QByteArray& BytesA) {
-  QSaveFile file(PathA);
-  if (!file.open(QIODevice::WriteOnly) || file.write(BytesA) != BytesA.size() || !file.commit())
-    throw HeadlessError("cannot write " + PathA.toStdString() + ": " + file.errorString().toStdString());
-}
 
 QImage Draw(HeadlessControl& ControlA) {
   QImage image(ControlA.Size(), QImage::Format_RGB32);
@@ -37,8 +30,8 @@ QImage Draw(HeadlessControl& ControlA) {
 void WritePng(const QString& PathA, HeadlessControl& ControlA) {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
-  if (!Draw(ControlA).save(&buffer, "PNG")) throw HeadlessError("the picture cannot be made");
-  WriteFile(PathA, buffer.data());
+  if (!Draw(ControlA).save(&buffer, "PNG")) throw OutputError("the picture cannot be made");
+  WriteWholeFile(PathA, buffer.data());
 }
 
 void WriteSvg(const QString& PathA, HeadlessControl& ControlA) {
@@ -53,7 +46,7 @@ void WriteSvg(const QString& PathA, HeadlessControl& ControlA) {
     paint(surface);
     surface.PopClip();
   });
-  WriteFile(PathA, QByteArray::fromStdString(surface.Document()));
+  WriteWholeFile(PathA, QByteArray::fromStdString(surface.Document()));
 }
 
 }  // namespace mur::viewer

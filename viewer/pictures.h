@@ -6,7 +6,7 @@
 
 namespace mur::viewer {
 
-/// Draws a control to a file. Need a QGuiApplication, for its fonts. Throw HeadlessError when the file cannot
+/// Draws a control to a file. Need a QGuiApplication, for its fonts. Throw OutputError when the file cannot
 /// be written.
 void WritePng(const QString& PathA, HeadlessControl& ControlA);
 void WriteSvg(const QString& PathA, HeadlessControl& ControlA);

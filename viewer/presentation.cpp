@@ -5,7 +5,6 @@
 #include <functional>
 
 #include "viewer/palette.h"
-#include "viewer/readers/unique_keys.h"
 
 namespace mur::viewer {
 namespace {
@@ -79,10 +78,8 @@ float FittingBarHeight(const MURTimelineRender& ControlA) {
 
 void ShowMarkers(MURTimelineRender& ControlA, const LoadedFile& FileA) {
   const Ref<ITimelineScroll> scale = ControlA.Collaborators().scroller;
-  UniqueKeys keys;
   for (const Marker& marker : FileA.markers)
-    scale->MarkerAdd(InstantOf(FileA.day, marker.time),
-                     keys.Take(marker.name.empty() ? u"Marker" : marker.name), marker.name, true);
+    scale->MarkerAdd(InstantOf(FileA.day, marker.time), marker.key, marker.name, true);
 }
 
 // The time scale writes frames at 25 a second only; other files get milliseconds.

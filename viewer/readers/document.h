@@ -35,6 +35,14 @@ struct MediaSection {
   bool clipped = false;
 };
 
+/// The item of the file that an object stands for, counting all items in the order in which the file has
+/// them.
+struct ItemOrigin {
+  std::size_t number = 0;
+  double rate = 0;         // frames a second; 0 when the item has none
+  bool isTrimmed = false;  // its surroundings hide a part of it
+};
+
 /// One object of a time line to be. Times are seconds, `start` counting from the document's day.
 struct Entry {
   MURTimelineObjectType type = murtlotScalar;
@@ -46,15 +54,21 @@ struct Entry {
   bool isTrack = false;
   MURTimelineObjectType groupType = murtlotUnknown;
   MediaSection media;
+  std::optional<ItemOrigin> origin;  // edits
 };
 
 /// A labelled instant or span of a file. `time` and `duration` are seconds, as in Entry.
 struct Marker {
   String name;
+  String key;  // differs from all others; given when the file is loaded
   double time = 0;
   double duration = 0;
   String color;  // as the file names it: "RED", "GREEN", ...
   String comment;
+  // Edits: the item that carries it and its place among that item's markers, and that item's entry.
+  std::optional<std::size_t> item;
+  std::size_t place = 0;
+  std::optional<std::size_t> entry;
 };
 
 /// What a reader makes of a file, complete before a time line is touched.

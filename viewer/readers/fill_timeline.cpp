@@ -29,7 +29,7 @@ class Filling {
  public:
   Filling(CMURTimeline& TimelineA, const Document& DocumentA) : mTimeline(TimelineA), mDocument(DocumentA) {}
 
-  void Run(Progress& ProgressA) {
+  std::vector<String> Run(Progress& ProgressA) {
     mTimeline.SetTag(mDocument.title);
     mTimeline.SetWorldTimeT0(InstantOf(mDocument.day, mDocument.start));
     mTimeline.SetDuration(mDocument.duration);
@@ -38,6 +38,10 @@ class Filling {
       ProgressA.Report(mObjects.size(), mDocument.entries.size());
       mObjects.push_back(AddObject(entry));
     }
+    std::vector<String> keys;
+    keys.reserve(mObjects.size());
+    for (const Ref<IMURTimelineObject>& object : mObjects) keys.push_back(object->Key());
+    return keys;
   }
 
  private:
@@ -71,10 +75,10 @@ void RequireTimesInRange(const Document& DocumentA) {
     RequireInRange(DocumentA.day, marker.time, marker.duration, "marker \"" + ToUtf8(marker.name) + "\"");
 }
 
-void FillTimeline(CMURTimeline& TimelineA, const Document& DocumentA, Progress& ProgressA) {
+std::vector<String> FillTimeline(CMURTimeline& TimelineA, const Document& DocumentA, Progress& ProgressA) {
   TimelineA.Clear();
   try {
-    Filling(TimelineA, DocumentA).Run(ProgressA);
+    return Filling(TimelineA, DocumentA).Run(ProgressA);
   } catch (...) {
     TimelineA.Clear();
     throw;

@@ -22,7 +22,7 @@ class FrameSum {
   FrameSum(FrameTime TimeA) { *this += TimeA; }
 
   FrameSum& operator+=(FrameTime TimeA) {
-    FramesAt(TimeA.rate) += TimeA.value;
+    TermAt(TimeA.rate) += TimeA.value;
     return *this;
   }
   FrameSum& operator-=(FrameTime TimeA) { return *this += FrameTime{-TimeA.value, TimeA.rate}; }
@@ -40,6 +40,14 @@ class FrameSum {
   /// The rate of the first term; 0 for an empty sum.
   double FirstRate() const { return mTerms.empty() ? 0 : mTerms.front().rate; }
 
+  /// In frames at that rate, exact where all terms have it.
+  double FramesAt(double RateA) const {
+    double frames = 0;
+    for (const FrameTime& term : mTerms)
+      frames += term.rate == RateA ? term.value : term.value * (RateA / term.rate);
+    return frames;
+  }
+
   double Seconds() const {
     double seconds = 0;
     for (const FrameTime& term : mTerms) seconds += term.Seconds();
@@ -47,7 +55,7 @@ class FrameSum {
   }
 
  private:
-  double& FramesAt(double RateA) {
+  double& TermAt(double RateA) {
     for (FrameTime& term : mTerms)
       if (term.rate == RateA) return term.value;
     return mTerms.emplace_back(0, RateA).value;

@@ -37,7 +37,7 @@ class Layout {
 
   void PlaceTopStack(const OtioNode& StackA, const FrameSum& StartA) {
     const Window window = WindowOf(StackA, StartA);
-    AddMarkers(StackA, StartA, window);
+    AddMarkers(StackA, StartA, window, std::nullopt);
     const FrameSum childStart = StartA - StackA.rangeStart;
     for (const std::size_t index : DisplayOrder(StackA)) {
       mTrackNumber = index + 1;
@@ -88,7 +88,8 @@ class Layout {
 
   void Place(const OtioNode& NodeA, const FrameSum& StartA, const Context& ContextA) {
     if (NodeA.kind == OtioKind::Clip) PlaceClip(NodeA, StartA, ContextA);
-    if (NodeA.kind == OtioKind::Gap) AddMarkers(NodeA, StartA, ContextA.window);
+    if (NodeA.kind == OtioKind::Gap || NodeA.kind == OtioKind::Unknown)
+      AddMarkers(NodeA, StartA, ContextA.window, ContextA.parent);
     if (NodeA.kind == OtioKind::Track || NodeA.kind == OtioKind::Stack)
       PlaceComposition(NodeA, StartA, ContextA);
   }
@@ -96,8 +97,8 @@ class Layout {
   void PlaceComposition(const OtioNode& NodeA, const FrameSum& StartA, const Context& ContextA) {
     const Extent extent = ExtentOf(NodeA, StartA, ContextA);
     if (!extent.Shows()) return;
-    AddMarkers(NodeA, StartA, extent.visible);
-    const std::size_t group = AddEntry(GroupOf(NodeA, !ContextA.parent), extent, ContextA);
+    const std::size_t group = AddEntry(NodeA, GroupOf(NodeA, !ContextA.parent), extent, ContextA);
+    AddMarkers(NodeA, StartA, extent.visible, group);
     const Context inside{group, extent.visible};
     if (NodeA.kind == OtioKind::Track)
       PlaceInSequence(NodeA, StartA - NodeA.rangeStart, inside);
@@ -128,13 +129,12 @@ class Layout {
     entry.type = murtlotScalar;
     entry.key = NodeA.name;
     entry.tag = NodeA.tag;
-    AddEntry(std::move(entry), extent, ContextA);
+    AddEntry(NodeA, std::move(entry), extent, ContextA);
   }
 
   void PlaceClip(const OtioNode& NodeA, const FrameSum& StartA, const Context& ContextA) {
     const Extent extent = ExtentOf(NodeA, StartA, ContextA);
     if (!extent.Shows()) return;
-    AddMarkers(NodeA, StartA, extent.visible);
     Entry entry;
     entry.type = murtlotMedia;
     entry.key = NodeA.name;
@@ -144,7 +144,7 @@ class Layout {
       entry.media.clipped = true;
       entry.media.cutIn += extent.visible.from - extent.whole.from;
     }
-    AddEntry(std::move(entry), extent, ContextA);
+    AddMarkers(NodeA, StartA, extent.visible, AddEntry(NodeA, std::move(entry), extent, ContextA));
   }
 
   static MediaSection SectionOf(const OtioNode& ClipA) {
@@ -181,21 +181,30 @@ class Layout {
     return u"Track " + FromAscii(std::to_string(mTrackNumber)) + u" (" + NodeA.trackKind + u")";
   }
 
-  std::size_t AddEntry(Entry EntryA, const Extent& ExtentA, const Context& ContextA) {
+  std::size_t AddEntry(const OtioNode& NodeA, Entry EntryA, const Extent& ExtentA, const Context& ContextA) {
     EntryA.start = ExtentA.visible.from;
     EntryA.duration = ExtentA.VisibleLength();
     EntryA.parent = ContextA.parent;
+    if (NodeA.number) EntryA.origin = {*NodeA.number, FirstRate(NodeA), ExtentA.IsTrimmed()};
     mDocument.entries.push_back(std::move(EntryA));
     return mDocument.entries.size() - 1;
   }
 
   // Markers stand in the item's own time; those on its trimmed ends are not shown.
-  void AddMarkers(const OtioNode& NodeA, const FrameSum& StartA, const Window& VisibleA) {
+  void AddMarkers(const OtioNode& NodeA, const FrameSum& StartA, const Window& VisibleA,
+                  std::optional<std::size_t> EntryA) {
     for (const OtioMarker& marker : NodeA.markers) {
       const double time = (StartA + marker.range.start - NodeA.rangeStart).Seconds();
       if (!VisibleA.Contains(time)) continue;
-      mDocument.markers.push_back(
-          {marker.name, time, marker.range.duration.Seconds(), marker.color, marker.comment});
+      mDocument.markers.push_back({marker.name,
+                                   {},
+                                   time,
+                                   marker.range.duration.Seconds(),
+                                   marker.color,
+                                   marker.comment,
+                                   NodeA.number,
+                                   marker.place,
+                                   EntryA});
     }
   }
 

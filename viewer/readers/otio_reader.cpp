@@ -46,6 +46,7 @@ class OtioReading {
 
   void AddEdit(const QJsonObject& ObjectA, const std::optional<FrameTime>& StartA) {
     OtioNode item = ReadOtioItem(ObjectA, mDocument.notes);
+    NumberItems(item, mNextItem);
     NoteRate(FirstRate(item));
     if (item.kind != OtioKind::Stack) item = StackOf(std::move(item));
     const FrameSum start = StartA ? FrameSum(*StartA) : FrameSum();
@@ -61,13 +62,6 @@ class OtioReading {
     return stack;
   }
 
-  static double FirstRate(const OtioNode& NodeA) {
-    if (NodeA.kind == OtioKind::Clip || NodeA.kind == OtioKind::Gap) return NodeA.duration.FirstRate();
-    for (const OtioNode& child : NodeA.children)
-      if (const double rate = FirstRate(child); rate > 0) return rate;
-    return 0;
-  }
-
   void NoteRate(double RateA) {
     if (mDocument.rate == 0) mDocument.rate = RateA;
   }
@@ -81,6 +75,7 @@ class OtioReading {
 
   Document mDocument;
   bool mHasEdit = false;
+  std::size_t mNextItem = 0;
 };
 
 }  // namespace

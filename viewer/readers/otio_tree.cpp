@@ -97,16 +97,16 @@ OtioKind KindOf(const QString& SchemaA, std::vector<std::string>& NotesA) {
   if (SchemaA == QLatin1String("Track")) return OtioKind::Track;
   if (SchemaA == QLatin1String("Stack")) return OtioKind::Stack;
   NotesA.push_back("an item of unknown kind \"" + SchemaA.toStdString() + "\" is left out");
-  return OtioKind::Gap;
+  return OtioKind::Unknown;
 }
 
 std::vector<OtioMarker> ReadMarkers(const QJsonArray& ArrayA) {
   std::vector<OtioMarker> markers;
-  for (const QJsonValue& value : ArrayA) {
-    const QJsonObject object = value.toObject();
+  for (qsizetype i = 0; i < ArrayA.size(); ++i) {
+    const QJsonObject object = ArrayA[i].toObject();
     if (const auto range = ReadFrameRange(object[u"marked_range"]))
-      markers.push_back(
-          {TextOf(object[u"name"]), TextOf(object[u"color"]), TextOf(object[u"comment"]), *range});
+      markers.push_back({TextOf(object[u"name"]), TextOf(object[u"color"]), TextOf(object[u"comment"]),
+                         *range, static_cast<std::size_t>(i)});
   }
   return markers;
 }
@@ -131,6 +131,19 @@ bool IsOtioItem(const QString& SchemaA) {
   static const QStringList items{QStringLiteral("Clip"), QStringLiteral("Gap"), QStringLiteral("Transition"),
                                  QStringLiteral("Track"), QStringLiteral("Stack")};
   return items.contains(SchemaA);
+}
+
+double FirstRate(const OtioNode& NodeA) {
+  if (NodeA.kind == OtioKind::Transition) return 0;
+  if (NodeA.kind != OtioKind::Track && NodeA.kind != OtioKind::Stack) return NodeA.duration.FirstRate();
+  for (const OtioNode& child : NodeA.children)
+    if (const double rate = FirstRate(child); rate > 0) return rate;
+  return 0;
+}
+
+void NumberItems(OtioNode& NodeA, std::size_t& NextA) {
+  NodeA.number = NextA++;
+  for (OtioNode& child : NodeA.children) NumberItems(child, NextA);
 }
 
 OtioNode ReadOtioItem(const QJsonObject& ObjectA, std::vector<std::string>& NotesA) {

@@ -18,9 +18,10 @@ struct FrameRange {
 struct OtioMarker {
   String name, color, comment;
   FrameRange range;
+  std::size_t place = 0;  // among those of the item, unreadable ones included
 };
 
-enum class OtioKind { Clip, Gap, Transition, Track, Stack };
+enum class OtioKind { Clip, Gap, Transition, Track, Stack, Unknown };
 
 /// One item of an edit with its extent worked out.
 ///
@@ -28,7 +29,8 @@ enum class OtioKind { Clip, Gap, Transition, Track, Stack };
 ///                                     duration
 struct OtioNode {
   OtioKind kind = OtioKind::Gap;
-  String name;  // never empty for what is shown, tracks excepted
+  std::optional<std::size_t> number;  // in the file's order of items; none for what was added in thought
+  String name;                        // never empty for what is shown, tracks excepted
   String tag;
   bool isAudio = false;  // tracks
   String trackKind;      // tracks: "Video", "Audio", ...
@@ -52,6 +54,12 @@ QString SchemaName(const QJsonObject& ObjectA);
 
 /// Whether an object of that schema stands in an edit.
 bool IsOtioItem(const QString& SchemaA);
+
+/// The rate of the first clip or gap in an item, itself included; 0 when there is none.
+double FirstRate(const OtioNode& NodeA);
+
+/// Numbers an item and all below it from `NextA` on, parents before their children.
+void NumberItems(OtioNode& NodeA, std::size_t& NextA);
 
 /// The item and all below it. What is missing or of the wrong kind reads as absent; children of unknown
 /// schemas are noted in `NotesA` and take the time of their source range.
