@@ -159,12 +159,16 @@ void MURTimelineRender::AlignTracks() {
 }
 
 bool MURTimelineRender::IsDragging() const {
-  return mParts->interaction.IsDragging();
+  bool isOnScale = false;
+  ResumeNext([&] { isOnScale = mParts->state.Scroller().IsDragging(); });
+  return isOnScale || mParts->interaction.IsDragging();
 }
 
 bool MURTimelineRender::CancelDrag() {
   const Ref<MURTimelineRender> keep(this);
-  return mParts->interaction.CancelDrag();
+  bool wasOnScale = false;
+  ResumeNext([&] { wasOnScale = mParts->state.Scroller().CancelDrag(); });
+  return mParts->interaction.CancelDrag() || wasOnScale;
 }
 
 const Companions& MURTimelineRender::Collaborators() const {

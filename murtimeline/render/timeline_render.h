@@ -161,7 +161,7 @@ class MUR_API MURTimelineRender final : public Object {
   /// repaint, and a drag adds up until then.
   bool FollowAllStarts() const;
   void SetFollowAllStarts(bool FollowA);
-  /// Whether a bar or the cursor is being dragged.
+  /// Whether a bar or the cursor is being dragged, on the canvas or on the time scale.
   bool IsDragging() const;
   /// Ends a drag and puts what was dragged back to where it was taken up. False when there was none.
   bool CancelDrag();

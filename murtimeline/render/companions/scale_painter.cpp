@@ -3,12 +3,12 @@
 #include <cmath>
 
 #include <murtimeline/render/companions/color_math.h>
+#include <murtimeline/render/companions/marker_painter.h>
 #include <murtimeline/render/companions/scale_painter.h>
 
 namespace mur {
 namespace {
 
-constexpr float kMajorLength = 7;
 constexpr float kMinorLength = 4;
 constexpr float kLabelGap = 10;
 constexpr float kTextInset = 4;
@@ -16,14 +16,12 @@ constexpr float kLeastMinorDistance = 7;
 constexpr std::int64_t kMostMinorsPerMajor = 10;
 constexpr Rgba kCursorColor{208, 32, 32, 255};
 
-float FontPixels(std::int32_t PointsA) {
-  return static_cast<float>(std::clamp<std::int32_t>(PointsA, 5, 72)) * 96 / 72;
-}
-
 }  // namespace
 
-ScalePainter::ScalePainter(Surface& SurfaceA, const ChildHost& HostA, const ScaleSettings& SettingsA)
+ScalePainter::ScalePainter(Surface& SurfaceA, const ChildHost& HostA, const ScaleSettings& SettingsA,
+                           ScaleFlags& FlagsA)
     : mSurface(SurfaceA),
+      mHost(HostA),
       mSettings(SettingsA),
       mTexts(SettingsA),
       mWidth(HostA.Width() / ChildHost::kTwipsPerPixel),
@@ -31,58 +29,47 @@ ScalePainter::ScalePainter(Surface& SurfaceA, const ChildHost& HostA, const Scal
       mTicksBelow(SettingsA.tickEdge == 1),
       mBack(ResolveColor(SettingsA.backColor, HostA)),
       mFore(ReadableOn(mBack, ResolveColor(SettingsA.foreColor, HostA))),
-      mHighlight(ResolveColor(SettingsA.highlightColor, HostA)) {
-  const float size = FontPixels(SettingsA.labelFontSize);
+      mFlags(FlagsA),
+      mShown(FlagsA.LayOut(SurfaceA)),
+      mBands(FlagsA.Bands()) {
+  const float size = LabelPixels(SettingsA.labelFontSize);
   mLabelStyle = {size, false, mFore};
   mContextStyle = {size, false, ReadableOn(mBack, Mixed(mBack, mFore, 0.75F))};
-  mFlagStyle = {size - 1, false, ReadableOn(mHighlight, mBack)};
-  LayOutBands();
 }
 
-void ScalePainter::Paint(const std::vector<const TimeScaleMarker*>& MarkersA) {
+void ScalePainter::Paint(const TimeScaleMarker* HighlightedA) {
+  MarkerPainter markers(mSurface, mFlags.Markers(), mBands, {mWidth, mBack, mFore},
+                        FlagTextSize(mLabelStyle.size));
   mSurface.FillRectangle({0, 0, mWidth, mHeight}, mBack);
   mSurface.FillRectangle({0, mTicksBelow ? mHeight - 1 : 0, mWidth, 1}, Mixed(mBack, mFore, 0.35F));
-  if (mSettings.showMarkers && mContext.IsShown())
-    mFlags =
-        LayOutFlags(mSurface, MarkersA, mSettings, {0, mContext.top, mWidth, mContext.height}, mFlagStyle);
   const auto range = RangeOf(mSettings, mTexts.OriginSeconds(), mWidth);
   const TickStep* major = range ? MajorStep(*range) : nullptr;
   if (major) DrawTicks(*range, *major);
-  DrawFlags();
+  for (const MarkerFlag& flag : mShown) markers.Draw(flag);
   if (major) DrawTexts(*range, *major);
+  if (HighlightedA)
+    markers.DrawHighlighted(mShown, *HighlightedA, ResolveColor(mSettings.highlightColor, mHost),
+                            mSettings.highlightWidth);
   if (mSettings.showCursor) DrawCursor();
   if (mSettings.borderStyle != 0)
     mSurface.FrameRectangle({0, 0, mWidth, mHeight}, Mixed(mBack, mFore, 0.5F), 1);
 }
 
-// The rows share what the ticks leave; the context goes first where there is too little.
-void ScalePainter::LayOutBands() {
-  const float line = mSurface.MeasureText(u"0", mLabelStyle).Height();
-  const float room = mHeight - kMajorLength - 1;
-  const float rows = std::clamp(std::floor(room / std::max(line, 1.0F)), 0.0F, 2.0F);
-  if (rows == 0) return;
-  const float height = room / rows;
-  const float outer = mTicksBelow ? 0 : mHeight - height;
-  const float inner = mTicksBelow ? room - height : mHeight - room;
-  mLabels = {inner, height};
-  if (rows == 2) mContext = {outer, height};
-}
-
 void ScalePainter::DrawTicks(const ScaleRange& RangeA, const TickStep& MajorA) {
   if (const TickStep* minor = MinorStep(RangeA, MajorA))
     DrawLines(RangeA, *minor, TickBand(kMinorLength), Mixed(mBack, mFore, 0.35F));
-  DrawLines(RangeA, MajorA, TickBand(kMajorLength), Mixed(mBack, mFore, 0.6F));
-  if (const TickStep* context = mTexts.ContextStep(MajorA); context && mContext.IsShown())
-    DrawLines(RangeA, *context, mContext, Mixed(mBack, mFore, 0.25F));
+  DrawLines(RangeA, MajorA, TickBand(ScaleBands::kTickLength), Mixed(mBack, mFore, 0.6F));
+  if (const TickStep* context = mTexts.ContextStep(MajorA); context && mBands.context.IsShown())
+    DrawLines(RangeA, *context, mBands.context, Mixed(mBack, mFore, 0.25F));
 }
 
-ScalePainter::Band ScalePainter::TickBand(float LengthA) const {
+ScaleBand ScalePainter::TickBand(float LengthA) const {
   return {mTicksBelow ? mHeight - LengthA : 0, LengthA};
 }
 
 void ScalePainter::DrawTexts(const ScaleRange& RangeA, const TickStep& MajorA) {
-  if (mLabels.IsShown()) DrawLabels(RangeA, MajorA);
-  if (const TickStep* context = mTexts.ContextStep(MajorA); context && mContext.IsShown())
+  if (mBands.labels.IsShown()) DrawLabels(RangeA, MajorA);
+  if (const TickStep* context = mTexts.ContextStep(MajorA); context && mBands.context.IsShown())
     DrawContext(RangeA, *context);
 }
 
@@ -116,7 +103,7 @@ float ScalePainter::WidestLabel(const ScaleRange& RangeA, const TickStep& StepA)
 }
 
 // A line at each tick of a step.
-void ScalePainter::DrawLines(const ScaleRange& RangeA, const TickStep& StepA, const Band& BandA,
+void ScalePainter::DrawLines(const ScaleRange& RangeA, const TickStep& StepA, const ScaleBand& BandA,
                              Rgba ColorA) {
   for (std::int64_t number = StepA.NumberAt(RangeA.first); StepA.TimeOf(number) <= RangeA.last; ++number)
     if (StepA.TimeOf(number) >= RangeA.first)
@@ -137,7 +124,7 @@ void ScalePainter::DrawLabels(const ScaleRange& RangeA, const TickStep& StepA) {
     const float next = RangeA.XOf(StepA.TimeOf(number + 1)) - width / 2;
     const bool coversNext = left > middle && left + width + kTextInset > next;
     if (left < taken || coversNext || text.text.empty()) continue;
-    DrawText(left, mLabels, text, mLabelStyle);
+    DrawText(left, mBands.labels, text, mLabelStyle);
     taken = left + width + kTextInset;
   }
 }
@@ -161,35 +148,18 @@ void ScalePainter::DrawContextSpan(const TickStep& StepA, std::int64_t TimeA, fl
       const float left = PastFlags(start, text.extent.width);
       const bool hasRoom = left + text.extent.width + kTextInset <= RightA;
       if (text.text.empty() || !hasRoom || (left > start && !mayShift)) continue;
-      DrawText(left, mContext, text, mContextStyle);
+      DrawText(left, mBands.context, text, mContextStyle);
       return;
     }
 }
 
-// The first place at or after `LeftA` where that width is free of flags and poles.
+// The first place at or after `LeftA` where that width is free of flags.
 float ScalePainter::PastFlags(float LeftA, float WidthA) const {
   float left = LeftA;
-  for (const MarkerFlag& flag : mFlags) {
-    const float begin = flag.box.IsEmpty() ? flag.x : std::min(flag.x, flag.box.left);
-    const float end = std::max(flag.x, flag.box.Right());
-    if (begin < left + WidthA + kTextInset && end > left - kTextInset) left = end + kTextInset;
-  }
+  for (const MarkerFlag& flag : mShown)
+    if (flag.box.left < left + WidthA + kTextInset && flag.box.Right() > left - kTextInset)
+      left = flag.box.Right() + kTextInset;
   return left;
-}
-
-void ScalePainter::DrawFlags() {
-  const float width = mSettings.highlightWidth >= 1 ? std::min(mSettings.highlightWidth, 8.0F) : 1;
-  const float top = mTicksBelow ? mContext.top : 0;
-  const float bottom = mTicksBelow ? mHeight : mContext.top + mContext.height;
-  for (const MarkerFlag& flag : mFlags) {
-    mSurface.FillRectangle({Aligned(flag.x - (width - 1) / 2), top, width, bottom - top}, mHighlight);
-    if (flag.box.IsEmpty()) continue;
-    mSurface.FillRectangle({Aligned(flag.box.left), flag.box.top + 1, flag.box.width, flag.box.height - 2},
-                           mHighlight);
-    if (!flag.text.text.empty())
-      DrawText(flag.box.left + (flag.box.width - flag.text.extent.width) / 2, mContext, flag.text,
-               mFlagStyle);
-  }
 }
 
 // A line with a handle that points at the canvas.
@@ -212,7 +182,7 @@ float ScalePainter::Aligned(float PixelA) const {
   return std::min(std::round(PixelA * ratio) / ratio, mWidth - 1);
 }
 
-void ScalePainter::DrawText(float LeftA, const Band& BandA, const MeasuredText& TextA,
+void ScalePainter::DrawText(float LeftA, const ScaleBand& BandA, const MeasuredText& TextA,
                             const TextStyle& StyleA) {
   const float ratio = mSurface.DevicePixelRatio();
   const float baseline = std::round(CentredBaseline(BandA.Middle(), TextA.extent) * ratio) / ratio;

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include <murtimeline/automation/narrow.h>
@@ -23,11 +24,22 @@ std::optional<ScaleRange> RangeOf(const ScaleSettings& SettingsA, double OriginS
                     SettingsA.duration, WidthA};
 }
 
+bool HasRange(const ScaleSettings& SettingsA, float WidthA) {
+  return SettingsA.duration > 0 && std::isfinite(SettingsA.duration) && WidthA > 0;
+}
+
 std::optional<float> ShownX(const ScaleSettings& SettingsA, Date WorldTimeA, float WidthA) {
   const double share = (WorldTimeA.Seconds() - SettingsA.StartSeconds()) / SettingsA.duration;
-  const bool isRange = SettingsA.duration > 0 && std::isfinite(SettingsA.duration) && WidthA > 0;
-  if (!(isRange && share >= 0 && share <= 1)) return {};
+  if (!(HasRange(SettingsA, WidthA) && share >= 0 && share <= 1)) return {};
   return static_cast<float>(share * static_cast<double>(WidthA));
+}
+
+std::optional<Date> TimeAt(const ScaleSettings& SettingsA, float XA, float WidthA) {
+  if (!HasRange(SettingsA, WidthA)) return {};
+  const double share = static_cast<double>(std::clamp(XA, 0.0F, WidthA)) / static_cast<double>(WidthA);
+  const double seconds = SettingsA.StartSeconds() + share * SettingsA.duration;
+  const Date time = Date::Unchecked(seconds / kSecondsPerDay);
+  return time.InRange() ? std::optional(time) : std::nullopt;
 }
 
 }  // namespace mur

@@ -26,7 +26,13 @@ struct MUR_API ScaleRange {
 MUR_API std::optional<ScaleRange> RangeOf(const ScaleSettings& SettingsA, double OriginSecondsA,
                                           float WidthA);
 
+/// Whether a scale of that width shows times at all.
+MUR_API bool HasRange(const ScaleSettings& SettingsA, float WidthA);
+
 /// Where a world time lies on a scale of that width, when it is shown.
 MUR_API std::optional<float> ShownX(const ScaleSettings& SettingsA, Date WorldTimeA, float WidthA);
+
+/// The world time at an x of a scale of that width, beyond its ends the time there; none where there is none.
+MUR_API std::optional<Date> TimeAt(const ScaleSettings& SettingsA, float XA, float WidthA);
 
 }  // namespace mur

@@ -1,4 +1,4 @@
-#include <vector>
+#include <utility>
 
 #include <murtimeline/automation/error.h>
 #include <murtimeline/automation/narrow.h>
@@ -8,21 +8,30 @@
 
 namespace mur {
 
-MURTimelineScroll::MURTimelineScroll(ChildHost& HostA) : mHost(HostA), mLink(Make<HostLink>(HostA)) {
+MURTimelineScroll::MURTimelineScroll(ChildHost& HostA) : mHost(HostA), mBoard(Make<MarkerBoard>(HostA)) {
   mSettings.worldTimeT0 = mSettings.tZero = Now();
 }
 
 MURTimelineScroll::~MURTimelineScroll() {
-  mLink->Cut();
+  mBoard->CutHost();
+  MarkersLeave(mMarkers);
 }
 
 void MURTimelineScroll::Paint(Surface& SurfaceA, const RectF& DirtyA) {
-  std::vector<const TimeScaleMarker*> markers;
-  for (std::size_t slot = mMarkers.NextSlot(0); slot != Markers::kNone; slot = mMarkers.NextSlot(slot + 1))
-    markers.push_back(mMarkers.At(slot).Get());
+  const Ref<TimeScaleMarker> highlighted = mPointer.Highlighted();
   SurfaceA.PushClip(DirtyA);
-  ScalePainter(SurfaceA, mHost, mSettings).Paint(markers);
+  ScalePainter(SurfaceA, mHost, mSettings, mFlags).Paint(highlighted.Get());
   SurfaceA.PopClip();
+}
+
+String MURTimelineScroll::ToolTipAt(PointF PointA) const {
+  const TimeScaleMarker* marker = mFlags.MarkerAt(PointA);
+  String text = marker ? marker->HoverText() : String();
+  return text.empty() ? mHost.ToolTipText() : text;
+}
+
+RectF MURTimelineScroll::Area() const {
+  return {0, 0, mHost.Width() / ChildHost::kTwipsPerPixel, mHost.Height() / ChildHost::kTwipsPerPixel};
 }
 
 void MURTimelineScroll::SetWorldTimeT0(Date WorldTimeA) {
@@ -44,15 +53,22 @@ void MURTimelineScroll::SetCursorTime(Date WorldTimeA) {
 }
 
 void MURTimelineScroll::InvalidateCursor() const {
-  const float width = mHost.Width() / ChildHost::kTwipsPerPixel;
   constexpr float kReach = ScalePainter::kCursorReach;
-  if (const auto x = ShownX(mSettings, mSettings.cursorTime, width))
-    mLink->Invalidate({*x - kReach, 0, 2 * kReach, mHost.Height() / ChildHost::kTwipsPerPixel});
+  const RectF area = Area();
+  if (const auto x = ShownX(mSettings, mSettings.cursorTime, area.width))
+    mHost.Invalidate({*x - kReach, 0, 2 * kReach, area.height});
 }
 
+// The records go last: what they carry may run its host's code at its end.
 void MURTimelineScroll::MarkersClear() {
-  mMarkers = Markers();
-  mLink->InvalidateAll();
+  const Markers gone = std::exchange(mMarkers, Markers());
+  MarkersLeave(gone);
+  mBoard->Changed();
+}
+
+void MURTimelineScroll::MarkersLeave(const Markers& MarkersA) {
+  for (std::size_t slot = MarkersA.NextSlot(0); slot != Markers::kNone; slot = MarkersA.NextSlot(slot + 1))
+    MarkersA.At(slot)->Leave();
 }
 
 std::int32_t MURTimelineScroll::MarkersCount() const {
@@ -61,15 +77,16 @@ std::int32_t MURTimelineScroll::MarkersCount() const {
 
 void MURTimelineScroll::MarkerAdd(Date WorldTimeA, StringView MarkerKeyA, StringView CaptionA,
                                   bool VisibleA) {
-  if (mMarkers.Append(Make<TimeScaleMarker>(mLink, WorldTimeA, MarkerKeyA, CaptionA, VisibleA)))
-    mLink->InvalidateAll();
+  const auto marker = Make<TimeScaleMarker>(WorldTimeA, MarkerKeyA, CaptionA, VisibleA);
+  if (mMarkers.Append(marker)) marker->Join(mBoard);
 }
 
 void MURTimelineScroll::MarkerRemove(const Variant& KeyIndexA) {
   const std::size_t slot = Selector(KeyIndexA).SlotIn(mMarkers);
   if (slot == Markers::kNone) throw AutomationError(ErrorCode::SubscriptOutOfRange);
-  mMarkers.Remove(slot);
-  mLink->InvalidateAll();
+  const Ref<TimeScaleMarker> gone = mMarkers.Remove(slot);
+  gone->Leave();
+  mBoard->Changed();
 }
 
 Ref<ITimeScaleMarker> MURTimelineScroll::Marker(const Variant& KeyIndexA) const {

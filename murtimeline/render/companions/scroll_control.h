@@ -2,6 +2,8 @@
 
 #include <murtimeline/automation/export.h>
 #include <murtimeline/automation/keyed_sequence.h>
+#include <murtimeline/render/companions/scale_flags.h>
+#include <murtimeline/render/companions/scale_pointer.h>
 #include <murtimeline/render/companions/scale_settings.h>
 #include <murtimeline/render/companions/scroll_interface.h>
 #include <murtimeline/render/companions/time_scale_marker.h>
@@ -12,7 +14,7 @@ namespace mur {
 /// The time scale with its cursor and markers. It starts at the present moment with an hour to see, world
 /// times as timecode (style 4, no format string), the system's window colours, labels of 9 points, cursor and
 /// markers shown, and the cursor at date 0.
-class MUR_API MURTimelineScroll final : public ITimelineScroll {
+class MUR_API MURTimelineScroll final : public ITimelineScroll, public PointerTarget {
  public:
   /// `HostA` outlives the control.
   explicit MURTimelineScroll(ChildHost& HostA);
@@ -20,6 +22,28 @@ class MUR_API MURTimelineScroll final : public ITimelineScroll {
 
   /// Draws what `DirtyA` (pixels) touches.
   void Paint(Surface& SurfaceA, const RectF& DirtyA);
+  /// The marker whose flag is at a point (pixels).
+  Ref<TimeScaleMarker> MarkerAt(PointF PointA) const { return Ref<TimeScaleMarker>(mFlags.MarkerAt(PointA)); }
+  /// What to show while the pointer rests there: the caption and tag of a marker, else the host's own text.
+  String ToolTipAt(PointF PointA) const;
+  /// Where around a point that text holds; empty for all of the scale.
+  RectF ToolTipAreaAt(PointF PointA) const { return mFlags.AreaAt(PointA); }
+  /// The scale, in pixels.
+  RectF Area() const;
+  /// Whether a marker is on this scale still.
+  bool Holds(const TimeScaleMarker& MarkerA) const { return MarkerA.IsOn(*mBoard); }
+  ChildHost& Host() const { return mHost; }
+  const ScaleSettings& Settings() const { return mSettings; }
+
+  // The pointer: see ScalePointer.
+  void PointerPressed(const PointerInput& InputA) override { mPointer.Press(InputA, false); }
+  void PointerDoublePressed(const PointerInput& InputA) override { mPointer.Press(InputA, true); }
+  void PointerMoved(const PointerInput& InputA) override { mPointer.Move(InputA); }
+  void PointerReleased(const PointerInput& InputA) override { mPointer.Release(InputA); }
+  void PointerLeft() override { mPointer.Leave(); }
+  void PointerLost() override { mPointer.Lose(); }
+  bool IsDragging() const override { return mPointer.IsDragging(); }
+  bool CancelDrag() override { return mPointer.Cancel(); }
 
   Date WorldTimeT0() const override { return mSettings.worldTimeT0; }
   void SetWorldTimeT0(Date WorldTimeA) override;
@@ -68,18 +92,21 @@ class MUR_API MURTimelineScroll final : public ITimelineScroll {
   };
   using Markers = KeyedSequence<Ref<TimeScaleMarker>, KeyOf>;
 
+  static void MarkersLeave(const Markers& MarkersA);
   void InvalidateCursor() const;
 
   template <class T>
   void Set(T& FieldA, T ValueA) {
     FieldA = std::move(ValueA);
-    mLink->InvalidateAll();
+    mBoard->Changed();
   }
 
   ChildHost& mHost;
-  Ref<HostLink> mLink;
+  Ref<MarkerBoard> mBoard;
   Markers mMarkers;
   ScaleSettings mSettings;
+  ScaleFlags mFlags{mHost, mSettings, *mBoard};
+  ScalePointer mPointer{*this};
 };
 
 }  // namespace mur

@@ -96,6 +96,11 @@ class MUR_API ITimelineScroll : public Object {
   virtual void MarkerRemove(const Variant& KeyIndexA) = 0;
   /// The same record object each time; none when there is no such marker.
   virtual Ref<ITimeScaleMarker> Marker(const Variant& KeyIndexA) const = 0;
+
+  /// Whether the cursor is being dragged along the scale.
+  virtual bool IsDragging() const { return false; }
+  /// Ends that and puts the cursor back to where it was taken up. False when it was not dragged.
+  virtual bool CancelDrag() { return false; }
 };
 
 }  // namespace mur

@@ -246,13 +246,17 @@ TEST_F(ScalePainting, HidesMarkersOnDemand) {
   EXPECT_THAT(Texts(), Not(Contains("Start")));
 }
 
-TEST_F(ScalePainting, DrawsPolesOfTheHighlightWidth) {
+TEST_F(ScalePainting, DrawsThePoleOfTheMarkerUnderThePointerInTheHighlightsColorAndWidth) {
   scroll->MarkerAdd(At(600), u"a", u"", true);
   scroll->SetTimeScaleMarkerHighlightColor(0x00FF00);
   scroll->SetTimeScaleMarkerHighlightWidth(3);
+  EXPECT_THAT(Painted().Lines(), Not(Contains(HasSubstr("#00ff00"))));
+  scroll->PointerMoved({{102, 5}, 0, 0});
   EXPECT_THAT(Painted().Lines(), Contains("fill 99,0 3x40 #00ff00"));
   scroll->SetTimeScaleMarkerHighlightWidth(std::numeric_limits<float>::quiet_NaN());
   EXPECT_THAT(Painted().Lines(), Contains("fill 100,0 1x40 #00ff00"));
+  scroll->PointerLeft();
+  EXPECT_THAT(Painted().Lines(), Not(Contains(HasSubstr("#00ff00"))));
 }
 
 TEST_F(ScalePainting, LeavesOutRowsThatHaveNoRoom) {
