@@ -34,10 +34,16 @@ CMURTimeline::CMURTimeline() {
 
 void CMURTimeline::Initialise() {
   mMembers = Make<Members>();
+  MoveMembersRevision();
   mTag.clear();
   mAutoID = 0;
   mEnumeratingProperties = false;
   ResetSpecifics();
+}
+
+void CMURTimeline::MoveMembersRevision() noexcept {
+  static thread_local std::uint64_t tLast = 0;
+  mMembersRevision = ++tLast;
 }
 
 void CMURTimeline::ResetSpecifics() {
@@ -136,6 +142,7 @@ bool CMURTimeline::Insert(const Ref<IMURTimelineObject>& MemberA, const Variant&
     }
     const SharedText shared(key);
     if (!member || !mMembers->Add(member, shared)) return;
+    MoveMembersRevision();
     MoveShapeRevisionIfTrack(key);
     member->SetKeyText(shared);
     member->SetEventSink(keep);
@@ -156,6 +163,7 @@ void CMURTimeline::Remove(const Variant& vntIndexKey) {
     const String tag = member->Tag();
     member->Free();
     if (!mMembers->Remove(selector)) return;
+    MoveMembersRevision();
     MoveShapeRevisionIfTrack(key);
     RemoveTrackKey(key);
     TLObjectRemoved.Raise(asPassed, tag);
@@ -171,6 +179,7 @@ void CMURTimeline::Clear() {
   for (std::size_t left = members->Count() + kLateArrivals; left > 0; --left) {
     const Ref<IMURTimelineObject> member = members->Remove(Selector(std::size_t{1}));
     if (!member) break;
+    MoveMembersRevision();
     ResumeNext([&] { member->Free(); });
   }
   Initialise();

@@ -62,11 +62,17 @@ class MUR_API CMURTimeline final : public IMURTLObjectEventSink {
   std::size_t TrackPosition(StringView KeyA) const;
 
   std::int32_t Count() const;
+  /// The number of members beyond what 32 bits can say.
+  std::size_t MemberCount() const { return mMembers->Count(); }
   /// The member with that key or 1-based position; none when there is none.
   Ref<IMURTimelineObject> Item(const Variant& KeyIndexA) const { return mMembers->Find(KeyIndexA); }
   Ref<IMURTimelineObject> ItemByKey(StringView KeyA) const { return mMembers->FindByKey(KeyA); }
   /// Walks the members in order; the time line may change meanwhile.
   Members::Enumerator NewEnum() const { return Members::Enumerator(mMembers); }
+  /// The 1-based position of the member with that key; 0 when there is none.
+  std::size_t PositionOf(StringView KeyA) const { return mMembers->PositionOf(KeyA); }
+  /// A stamp that moves whenever a member comes or goes, and that no two time lines have in common.
+  std::uint64_t MembersRevision() const noexcept { return mMembersRevision; }
 
   /// Creates and inserts a group, scalar or media object; none for any other type, or when the key exists.
   /// With `IsTrackA` its key becomes a track key as well.
@@ -100,6 +106,7 @@ class MUR_API CMURTimeline final : public IMURTLObjectEventSink {
 
   void Initialise();
   void ResetSpecifics();
+  void MoveMembersRevision() noexcept;
   String GenerateKey() const;
   void MoveShapeRevisionIfTrack(StringView KeyA) const;
   template <class Value, class New>
@@ -107,6 +114,7 @@ class MUR_API CMURTimeline final : public IMURTLObjectEventSink {
   void RaisePropertyChanged(StringView PropertyNameA);
 
   Ref<Members> mMembers;
+  std::uint64_t mMembersRevision = 0;
   String mTag;
   std::int32_t mAutoID = 0;
   bool mEnumeratingProperties = false;

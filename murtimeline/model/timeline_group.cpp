@@ -11,11 +11,13 @@ CMURTimelineGroup::~CMURTimelineGroup() {
 }
 
 void CMURTimelineGroup::SetGroupType(MURTimelineObjectType GroupTypeA) {
+  TellSpanWatchers();
   mGroupType = GroupTypeA;
   Report(u"GroupType", mGroupType);
 }
 
 void CMURTimelineGroup::SetDuration(double DurationA) {
+  TellSpanWatchers();
   mDuration = DurationA;
   Report(u"Duration", mDuration);
 }

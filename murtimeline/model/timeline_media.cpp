@@ -8,6 +8,7 @@ namespace mur {
 
 void CMURTimelineMedia::SetDuration(double DurationA) {
   const Ref<CMURTimelineMedia> keep(this);
+  TellSpanWatchers();
   mDuration = DurationA;
   Report(u"Duration", Duration());
   ReportCutOut();
@@ -22,6 +23,7 @@ void CMURTimelineMedia::SetMediaFilename(StringView MediaFilenameA) {
 void CMURTimelineMedia::SetMediaDuration(double MediaDurationA) {
   if (!Differs(mMediaDuration, MediaDurationA)) return;
   const Ref<CMURTimelineMedia> keep(this);
+  TellSpanWatchers();
   mMediaDuration = MediaDurationA;
   if (!mUseClipping) Report(u"Duration", mMediaDuration);
   Report(u"MediaDuration", mMediaDuration);
@@ -50,6 +52,7 @@ void CMURTimelineMedia::SetCutOut(double CutOutA) {
 
 void CMURTimelineMedia::SetUseClipping(bool UseClippingA) {
   if (mUseClipping == UseClippingA) return;
+  TellSpanWatchers();
   mUseClipping = UseClippingA;
   Report(u"UseClipping", mUseClipping);
 }

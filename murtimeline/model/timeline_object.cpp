@@ -9,6 +9,7 @@
 namespace mur {
 
 void TimelineObject::SetKeyText(const SharedText& KeyA) {
+  TellSpanWatchers();
   mKey = KeyA;
   if (mEventSink) Report(u"Key", mKey.View());
 }
@@ -16,6 +17,11 @@ void TimelineObject::SetKeyText(const SharedText& KeyA) {
 void TimelineObject::SetTag(StringView TagA) {
   mTag = SharedText(TagA);
   if (mEventSink) Report(u"Tag", mTag.View());
+}
+
+void TimelineObject::SetEventSink(const Ref<IMURTLObjectEventSink>& SinkA) {
+  TellSpanWatchers();
+  mEventSink = SinkA;
 }
 
 void TimelineObject::SetParent(const Ref<IMURTimelineObject>& ParentA) {
@@ -44,6 +50,7 @@ void TimelineObject::SetOffset(double OffsetA) {
 void TimelineObject::ApplyWorldTimeT0(Date WorldTimeT0A) {
   RequireStackSpace();
   const Ref<TimelineObject> keep(this);
+  TellSpanWatchers();
   mWorldTimeT0 = WorldTimeT0A;
   ResumeNext([&] { SetOffset(OffsetFromParent()); });
   ResumeNext([&] { TellChildren(); });
@@ -77,12 +84,27 @@ void TimelineObject::ParentWorldTimeT0Changed() {
 }
 
 bool TimelineObject::SpansTime(Date DateA, bool IncludeBoundariesA) const {
-  bool spans = false;
-  ResumeNext([&] {
-    const Date end = AddSeconds(mWorldTimeT0, Duration());
-    spans = IncludeBoundariesA ? mWorldTimeT0 <= DateA && DateA <= end : mWorldTimeT0 < DateA && DateA < end;
-  });
-  return spans;
+  const TimeSpan span = Span();
+  return IncludeBoundariesA ? span.Contains(DateA) : span.first < DateA && DateA < span.last;
+}
+
+// What AddSeconds gives, without an error where that would be none of the caller's business.
+TimeSpan TimelineObject::Span() const {
+  const Date length = Date::Unchecked(Duration() / kSecondsPerDay);
+  const Date end = Date::Unchecked(length.Days() + mWorldTimeT0.Days());
+  return length.InRange() && end.InRange() ? TimeSpan{mWorldTimeT0, end} : TimeSpan();
+}
+
+std::optional<TimeSpan> TimelineObject::WatchSpan(const IMURTLObjectEventSink& SinkA) const {
+  if (mEventSink.Get() != &SinkA) return std::nullopt;
+  mSpanWatched = true;
+  return Span();
+}
+
+// Watched objects have a sink: that it goes is among what is told.
+void TimelineObject::TellThemOnce() const {
+  mSpanWatched = false;
+  SpanWatcher::TellAll(*this, *mEventSink);
 }
 
 void TimelineObject::Report(StringView PropertyNameA, const Variant& ValueA) {
@@ -96,6 +118,7 @@ void TimelineObject::Report(StringView PropertyNameA, const Variant& ValueA) {
 
 void TimelineObject::ClearCommonState() {
   const Ref<TimelineObject> keep(this);  // the parent may hold the last reference
+  TellSpanWatchers();
   mKey = SharedText();
   mTag = SharedText();
   mEventSink = nullptr;

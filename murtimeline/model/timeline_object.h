@@ -22,7 +22,7 @@ class MUR_API TimelineObject : public IMURTimelineObject {
   String Tag() const final { return String(mTag.View()); }
   void SetTag(StringView TagA) final;
   Ref<IMURTLObjectEventSink> EventSink() const final { return mEventSink; }
-  void SetEventSink(const Ref<IMURTLObjectEventSink>& SinkA) final { mEventSink = SinkA; }
+  void SetEventSink(const Ref<IMURTLObjectEventSink>& SinkA) final;
   Ref<IMURTimelineObject> Parent() const final { return mParent; }
   void SetParent(const Ref<IMURTimelineObject>& ParentA) final;
   void Free() override;
@@ -42,6 +42,7 @@ class MUR_API TimelineObject : public IMURTimelineObject {
   SharedText KeyText() const final { return mKey; }
   void SetKeyText(const SharedText& KeyA) final;
   bool WatchShape() const final;
+  std::optional<TimeSpan> WatchSpan(const IMURTLObjectEventSink& SinkA) const final;
   bool AppendOwnLines(String& TextA, StringView IndentA) const final;
 
  protected:
@@ -66,6 +67,10 @@ class MUR_API TimelineObject : public IMURTimelineObject {
   void MoveShapeRevisionIfWatched() const {
     if (mShapeWatched) MoveShapeRevision();
   }
+  /// To be called before the duration or the kind changes.
+  void TellSpanWatchers() const {
+    if (mSpanWatched) TellThemOnce();
+  }
 
   double mDuration = 0;  // seconds
 
@@ -74,6 +79,8 @@ class MUR_API TimelineObject : public IMURTimelineObject {
   void ApplyOffset(double OffsetA);
   void ParentWorldTimeT0Changed();
   double OffsetFromParent() const;
+  TimeSpan Span() const;
+  void TellThemOnce() const;
 
   SharedText mKey;
   SharedText mTag;
@@ -83,6 +90,7 @@ class MUR_API TimelineObject : public IMURTimelineObject {
   double mOffset = 0;  // seconds
   bool mLockedToParent = false;
   mutable bool mShapeWatched = false;
+  mutable bool mSpanWatched = false;
 };
 
 }  // namespace mur

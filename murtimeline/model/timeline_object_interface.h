@@ -10,6 +10,7 @@
 #include <murtimeline/automation/string.h>
 #include <murtimeline/automation/variant.h>
 #include <murtimeline/model/enumerations.h>
+#include <murtimeline/model/span_watcher.h>
 
 namespace mur {
 
@@ -46,6 +47,12 @@ class MUR_API TimelineNode : public Object {
   /// Asks the object to move `ShapeRevision` whenever its known depth or its parent changes. False when it
   /// cannot promise that.
   virtual bool WatchShape() const { return false; }
+  /// The object's span as SpansTime sees it, empty when its end is no date, and the promise to tell the
+  /// watchers of this thread before it changes (see SpanWatcher). None when the object's sink is another one
+  /// and for classes that cannot promise that.
+  virtual std::optional<TimeSpan> WatchSpan(const IMURTLObjectEventSink& /*SinkA*/) const {
+    return std::nullopt;
+  }
   /// Writes the object's own lines of the dump, up to its children, who follow by the caller's hand. False
   /// when only AsString can tell.
   virtual bool AppendOwnLines(String& /*TextA*/, StringView /*IndentA*/) const { return false; }

@@ -3,6 +3,7 @@
 namespace mur {
 
 void CMURTimelineScalar::SetDuration(double DurationA) {
+  TellSpanWatchers();
   mDuration = DurationA;
   Report(u"Duration", mDuration);
 }

@@ -140,10 +140,4 @@ void BarDrawing::ColorItem(const IMURTimelineObject& ObjectA, ICanvasItem& ItemA
   ItemA.SetBackColor(config->BackColor());
 }
 
-void BarDrawing::SetItemBackColor(const IMURTimelineObject& ObjectA, OleColor ColorA) {
-  ResumeNext([&] {
-    if (const Ref<ICanvasItem> item = ItemOf(ObjectA)) item->SetBackColor(ColorA);
-  });
-}
-
 }  // namespace mur

@@ -36,11 +36,6 @@ class BarDrawing {
   void RefreshTooltip(const IMURTimelineObject& ObjectA);
   /// The object's colours, from the configuration of its kind. A failure of the item reaches the caller.
   void RefreshColors(const IMURTimelineObject& ObjectA);
-  void SetItemBackColor(const IMURTimelineObject& ObjectA, OleColor ColorA);
-
-  /// Sets the back colour of every bar: its highlight colour for which `IsHighlightedA(object)` holds.
-  template <class IsHighlighted>
-  void RecolorBars(IsHighlighted&& IsHighlightedA);
 
  private:
   void ColorItem(const IMURTimelineObject& ObjectA, ICanvasItem& ItemA) const;
@@ -55,14 +50,5 @@ class BarDrawing {
   TrackLayout mTracks;
   RenderConfigs mConfigs;
 };
-
-template <class IsHighlighted>
-void BarDrawing::RecolorBars(IsHighlighted&& IsHighlightedA) {
-  auto objects = mState.timeline->NewEnum();
-  while (const Ref<IMURTimelineObject> object = objects.Next()) {
-    const Ref<CMURTLRenderConfig> config = mConfigs.Resolve(*object);
-    SetItemBackColor(*object, IsHighlightedA(*object) ? config->HighlightColor() : config->BackColor());
-  }
-}
 
 }  // namespace mur

@@ -27,12 +27,14 @@ Ref<CMURTLRenderConfig> RenderConfigs::Add(const Variant& KeyIndexA) {
 }
 
 Ref<CMURTLRenderConfig> RenderConfigs::Resolve(const IMURTimelineObject& ObjectA) const {
+  Ref<CMURTLRenderConfig> config = mDefault;
+  if (mConfigs->Count() > 0) ResumeNext([&] { config = ForKind(KindOf(ObjectA)); });
+  return config;
+}
+
+Ref<CMURTLRenderConfig> RenderConfigs::ForKind(MURTimelineObjectType KindA) const {
   Ref<CMURTLRenderConfig> config;
-  if (mConfigs->Count() > 0)
-    ResumeNext([&] {
-      const MURTimelineObjectType type = ObjectA.ObjectType();
-      config = Find(type != murtlotGroup ? type : ObjectA.GroupType());
-    });
+  if (mConfigs->Count() > 0) ResumeNext([&] { config = Find(KindA); });
   return config ? config : mDefault;
 }
 

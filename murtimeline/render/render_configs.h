@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include <murtimeline/automation/collection.h>
@@ -20,6 +21,15 @@ class RenderConfigs {
   /// The entry for the object's kind (a group's group type, else its object type), or the default. Never
   /// raises an error.
   Ref<CMURTLRenderConfig> Resolve(const IMURTimelineObject& ObjectA) const;
+  /// What decides about an object's configuration: a group's group type, else its object type.
+  static MURTimelineObjectType KindOf(const IMURTimelineObject& ObjectA) {
+    const MURTimelineObjectType type = ObjectA.ObjectType();
+    return type != murtlotGroup ? type : ObjectA.GroupType();
+  }
+  /// The entry for a kind, or the default. Never raises an error.
+  Ref<CMURTLRenderConfig> ForKind(MURTimelineObjectType KindA) const;
+  /// How many entries were added so far; none ever goes.
+  std::uint64_t Revision() const { return mConfigs->Count(); }
 
  private:
   static std::optional<String> KeyOf(const Variant& KeyIndexA);

@@ -76,6 +76,7 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas, public PointerTarg
   }
   Ref<ICanvasItem> AddGraphicSharing(const SharedText& KeyA, int KindA) override;
   void RemoveGraphic(const Variant& KeyIndexA) override;
+  std::optional<std::uint64_t> ColorRevision() const override { return mScene->ColorRevision(); }
 
  private:
   struct KeyOf {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include <murtimeline/automation/event.h>
 #include <murtimeline/automation/export.h>
@@ -75,6 +76,10 @@ class MUR_API IGraphicCanvas : public Object {
   }
   /// Throws SubscriptOutOfRange when there is no such item.
   virtual void RemoveGraphic(const Variant& KeyIndexA) = 0;
+
+  /// A stamp that moves by one whenever an item comes, goes or is put a back colour, the same one included;
+  /// none for canvases that keep no such stamp.
+  virtual std::optional<std::uint64_t> ColorRevision() const { return std::nullopt; }
 };
 
 }  // namespace mur

@@ -33,12 +33,14 @@ std::uint32_t CanvasScene::Add(CanvasItem& ItemA) {
     mLooks[slot].backColor = kCursorColor;
   }
   mItems[slot] = &ItemA;
+  ++mColorRevision;
   return slot;
 }
 
 void CanvasScene::TakeOff(std::uint32_t SlotA) {
   if (!mLooks[SlotA].onCanvas) return;
   RequestRepaint(SlotA);
+  ++mColorRevision;
   mLooks[SlotA].onCanvas = false;
   mIndex.TakeOff(SlotA);
 }
@@ -64,6 +66,7 @@ void CanvasScene::SetVisible(std::uint32_t SlotA, bool VisibleA) {
 }
 
 void CanvasScene::SetBackColor(std::uint32_t SlotA, OleColor ColorA) {
+  ++mColorRevision;
   if (std::exchange(mLooks[SlotA].backColor, ColorA) != ColorA) RequestRepaint(SlotA);
 }
 

@@ -53,6 +53,9 @@ class MUR_API CanvasScene final : public Object {
   void BringToFront(std::uint32_t SlotA);
   void SendToBack(std::uint32_t SlotA);
 
+  /// See IGraphicCanvas::ColorRevision.
+  std::uint64_t ColorRevision() const noexcept { return mColorRevision; }
+
   /// The place of the item must be painted again.
   void RequestRepaint(std::uint32_t SlotA);
   RepaintRequests& Requests() noexcept { return mRequests; }
@@ -78,6 +81,7 @@ class MUR_API CanvasScene final : public Object {
   std::vector<ItemLook> mLooks;
   std::vector<CanvasItem*> mItems;
   RepaintRequests mRequests;
+  std::uint64_t mColorRevision = 0;
   std::int64_t mFront = 0;
   std::int64_t mBack = 0;
   float mPixelsPerUnit = 1;
