@@ -1,6 +1,7 @@
 #pragma once
 
 #include <murtimeline/qt/hosted_child.h>
+#include <murtimeline/qt/widget_forms.h>
 #include <murtimeline/render/port/control_host.h>
 
 namespace mur::qt {
@@ -9,12 +10,14 @@ namespace mur::qt {
 /// whatever the control is doing, even when a listener deletes the widget.
 class WidgetHost final : public ControlHost, public HostFace {
  public:
-  WidgetHost(HostedChild& ScrollerA, HostedChild& CanvasA) : mScroller(ScrollerA), mCanvas(CanvasA) {}
+  WidgetHost(QWidget& WidgetA, HostedChild& ScrollerA, HostedChild& CanvasA)
+      : mScroller(ScrollerA), mCanvas(CanvasA), mForms(&WidgetA) {}
 
   float ScaleWidth() const override { return mWidth; }
   float ScaleHeight() const override { return mHeight; }
   HostedChild& ScrollerHost() override { return mScroller; }
   HostedChild& CanvasHost() override { return mCanvas; }
+  WidgetForms* Forms() override { return &mForms; }
 
   /// Logical pixels.
   void SetPixelSize(QSizeF SizeA) {
@@ -25,6 +28,7 @@ class WidgetHost final : public ControlHost, public HostFace {
  private:
   HostedChild& mScroller;
   HostedChild& mCanvas;
+  WidgetForms mForms;
   float mWidth = 0, mHeight = 0;
 };
 
