@@ -8,10 +8,15 @@ namespace mur::qt {
 TimeField::TimeField(QWidget* ParentA) : QTimeEdit(ParentA) {
   setWrapping(true);
   setAlignment(Qt::AlignHCenter);
-  connect(this, &QTimeEdit::timeChanged, this, [this](QTime time) {
-    mValue = ToDate(QDateTime(ToQDateTime(mValue).date(), time));
-    Q_EMIT edited();
-  });
+  connect(this, &QTimeEdit::timeChanged, this, &TimeField::TakeTime);
+}
+
+// Enter tells of a time that did not change, too.
+void TimeField::TakeTime(QTime TimeA) {
+  const QDateTime before = ToQDateTime(mValue);
+  if (TimeA == before.time()) return;
+  mValue = ToDate(QDateTime(before.date(), TimeA));
+  Q_EMIT edited();
 }
 
 // Writing the time that is there would disturb the user who is just typing it.

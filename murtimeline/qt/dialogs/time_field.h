@@ -22,6 +22,8 @@ class TimeField final : public QTimeEdit {
   void edited();
 
  private:
+  void TakeTime(QTime TimeA);
+
   Date mValue;
 };
 
