@@ -14,8 +14,9 @@ namespace {
 constexpr float kStep = kBareFlagWidth + 1;  // from one bare flag to the next
 constexpr int kFlagsPerStretch = 9;
 constexpr float kFarthest = kFlagsPerStretch * kStep;  // of a flag from its time
-constexpr float kWidestCaption = 160;
+constexpr float kWidestCaption = 240;
 constexpr float kLeastCaption = 20;
+constexpr float kPole = 1;
 constexpr float kGap = kStep - kBareFlagWidth;
 constexpr std::size_t kMostLanes = 3;
 
@@ -128,7 +129,7 @@ class FlagLayout {
 
   // At the end of the scale a caption stands to the left of its time, where there is room.
   static void TurnOver(MarkerFlag& FlagA, float WantedA, float TakenA) {
-    const float left = FlagA.box.left + kBareFlagWidth - WantedA;
+    const float left = FlagA.box.left + kPole - WantedA;
     if (left < TakenA + kGap) return;
     FlagA.box.left = left;
     FlagA.box.width = WantedA;

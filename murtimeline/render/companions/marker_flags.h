@@ -41,7 +41,7 @@ MUR_API std::vector<MarkerFlag> LayOutFlags(const MarkerOrder& MarkersA, const S
                                             float WidthA, const ScaleBand& BandA, const FlagTexts& TextsA);
 
 /// The space between a flag's edge and its caption.
-inline constexpr float kFlagPadding = 3;
+inline constexpr float kFlagPadding = 4;
 inline constexpr float kBareFlagWidth = 5;
 
 }  // namespace mur

@@ -26,15 +26,17 @@ MarkerPainter::MarkerPainter(Surface& SurfaceA, const MarkerOrder& MarkersA, con
     : mSurface(SurfaceA), mMarkers(MarkersA), mBands(BandsA), mLook(LookA), mTextSize(TextSizeA) {}
 
 // The pole is the flag's edge at its time; a flag in an upper lane stands on the rest of it. What many share
-// is darker.
+// is darker, and stands for times all around.
 void MarkerPainter::Draw(const MarkerFlag& FlagA) {
   const auto tone = [this](float share) { return Mixed(mLook.back, mLook.fore, share); };
   const RectF body = BodyOf(FlagA);
-  const Rgba fill = tone(FlagA.hasCaption ? 0.12F : FlagA.count > 1 ? 0.45F : 0.25F);
-  const float pole = Aligned(std::clamp(FlagA.x, body.left, body.Right() - 1));
+  const bool isShared = FlagA.count > 1;
+  const Rgba fill = tone(FlagA.hasCaption ? 0.12F : isShared ? 0.45F : 0.25F);
+  const float line = Hairline();
+  const float pole = Aligned(std::clamp(FlagA.x, body.left, body.Right() - line));
   mSurface.FillRectangle({Aligned(body.left), body.top, body.width, body.height}, fill);
-  mSurface.FillRectangle({pole, body.top, 1, mBands.context.Bottom() - body.top}, tone(0.6F));
-  DrawFoot(FlagA.x, tone(0.6F));
+  mSurface.FillRectangle({pole, body.top, line, mBands.context.Bottom() - body.top}, tone(0.6F));
+  if (!isShared) DrawFoot(FlagA.x, tone(0.6F));
   if (FlagA.hasCaption)
     DrawCaption(body, mMarkers.At(FlagA.first).CaptionView(),
                 {mTextSize, false, ReadableOn(fill, tone(0.85F))});
@@ -61,6 +63,7 @@ void MarkerPainter::DrawHighlighted(const std::vector<MarkerFlag>& FlagsA, const
   const float bottom = std::max(mBands.context.Bottom(), mBands.ticks.top + mBands.ticks.height);
   mSurface.FillRectangle({Aligned(flag->x - (pole - 1) / 2), top, pole, bottom - top}, ColorA);
   mSurface.FillRectangle({Aligned(body.left), body.top, body.width, body.height}, ColorA);
+  DrawFoot(flag->x, ColorA);
   if (!caption.empty()) DrawCaption(body, caption, style);
 }
 
@@ -83,6 +86,12 @@ void MarkerPainter::DrawCaption(const RectF& BoxA, StringView CaptionA, const Te
   if (!text.text.empty())
     mSurface.DrawTextLine({BoxA.left + kFlagPadding, std::round(baseline * ratio) / ratio}, text.text,
                           StyleA);
+}
+
+// A sharp line of about a pixel, equally wide wherever it lies.
+float MarkerPainter::Hairline() const {
+  const float ratio = mSurface.DevicePixelRatio();
+  return std::max(std::floor(ratio), 1.0F) / ratio;
 }
 
 float MarkerPainter::Aligned(float PixelA) const {

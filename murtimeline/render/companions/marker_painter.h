@@ -30,6 +30,7 @@ class MUR_API MarkerPainter {
  private:
   void DrawFoot(float XA, Rgba ColorA);
   void DrawCaption(const RectF& BoxA, StringView CaptionA, const TextStyle& StyleA);
+  float Hairline() const;
   float Aligned(float PixelA) const;
 
   Surface& mSurface;
