@@ -120,6 +120,26 @@ class MUR_API MURTimelineRender final : public Object {
   float TimeScaleHeight() const;
   void SetTimeScaleHeight(float HeightA);
 
+  // Markers on the time scale, named by their keys or by their positions there. Where there is no such marker
+  // readers find the empty value and writers do nothing.
+  void TimeScaleMarkersClear();
+  /// Throws Overflow beyond 32,767 markers.
+  std::int16_t TimeScaleMarkersCount() const;
+  /// A key that exists (letter case ignored) is ignored.
+  void TimeScaleMarkerAdd(Date WorldTimeA, StringView MarkerKeyA, StringView CaptionA = {},
+                          bool VisibleA = true);
+  void TimeScaleMarkerRemove(const Variant& KeyIndexA);
+  Date TimeScaleMarkerWorldTime(const Variant& KeyIndexA) const;
+  void SetTimeScaleMarkerWorldTime(const Variant& KeyIndexA, Date WorldTimeA);
+  String TimeScaleMarkerCaption(const Variant& KeyIndexA) const;
+  void SetTimeScaleMarkerCaption(const Variant& KeyIndexA, StringView CaptionA);
+  String TimeScaleMarkerTag(const Variant& KeyIndexA) const;
+  void SetTimeScaleMarkerTag(const Variant& KeyIndexA, StringView TagA);
+  Variant TimeScaleMarkerUserData(const Variant& KeyIndexA) const;
+  void SetTimeScaleMarkerUserData(const Variant& KeyIndexA, const Variant& UserDataA);
+  /// The record itself, the same object each time.
+  Ref<ITimeScaleMarker> TimeScaleMarkerDefinition(const Variant& KeyIndexA) const;
+
   // Tracks and bars.
   float BarHeight() const;
   void SetBarHeight(float HeightA);
@@ -147,6 +167,17 @@ class MUR_API MURTimelineRender final : public Object {
   void SetAutoObjectTooltipText(StringView TextA);
   bool AutoHighlightObjects() const;
   void SetAutoHighlightObjects(bool HighlightA);
+
+  // Appearance of one bar, by the key of its object ("The Cursor" for the cursor) or its position on the
+  // canvas. Lasts until the control writes the same itself; empty where there is no such bar or site.
+  OleColor TLObject_BackColor(const Variant& KeyIndexA) const;
+  void SetTLObject_BackColor(const Variant& KeyIndexA, OleColor ColorA);
+  OleColor TLObject_ForeColor(const Variant& KeyIndexA) const;
+  void SetTLObject_ForeColor(const Variant& KeyIndexA, OleColor ColorA);
+  String TLObject_Caption(const Variant& KeyIndexA, std::int32_t CaptionSiteA) const;
+  void SetTLObject_Caption(const Variant& KeyIndexA, std::int32_t CaptionSiteA, StringView CaptionA);
+  bool TLObject_Visible(const Variant& KeyIndexA) const;
+  void SetTLObject_Visible(const Variant& KeyIndexA, bool VisibleA);
 
   // Interaction.
   Variant SelectedKey() const;

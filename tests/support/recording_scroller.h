@@ -7,7 +7,39 @@
 
 namespace mur::test {
 
-/// A time scale that keeps what is written to it and notes every write and marker call. It has no markers.
+/// A marker record that notes what is written to it.
+class RecordingMarker final : public ITimeScaleMarker {
+ public:
+  explicit RecordingMarker(CallLog& LogA) : mLog(LogA) {}
+
+  String Key() const override { return u"M"; }
+  String Caption() const override { return mLog.Pass("Marker.Caption"), mCaption; }
+  void SetCaption(StringView CaptionA) override { Put("Caption", mCaption, String(CaptionA)); }
+  Date WorldTime() const override { return mLog.Pass("Marker.WorldTime"), mWorldTime; }
+  void SetWorldTime(Date WorldTimeA) override { Put("WorldTime", mWorldTime, WorldTimeA); }
+  bool Visible() const override { return mVisible; }
+  void SetVisible(bool VisibleA) override { Put("Visible", mVisible, VisibleA); }
+  String Tag() const override { return mLog.Pass("Marker.Tag"), mTag; }
+  void SetTag(StringView TagA) override { Put("Tag", mTag, String(TagA)); }
+  Variant UserData() const override { return mLog.Pass("Marker.UserData"), mUserData; }
+  void SetUserData(const Variant& ValueA) override { Put("UserData", mUserData, ValueA); }
+
+ private:
+  template <class T>
+  void Put(const char* NameA, T& FieldA, T ValueA) {
+    mLog.Note(std::string("Marker.") + NameA, " = " + ValueText(ValueA));
+    FieldA = std::move(ValueA);
+  }
+
+  CallLog& mLog;
+  String mCaption, mTag;
+  Variant mUserData;
+  Date mWorldTime;
+  bool mVisible = true;
+};
+
+/// A time scale that keeps what is written to it and notes every write and marker call. It has no markers but
+/// `marker`, which it gives for every key and position.
 class RecordingScroller final : public ITimelineScroll {
  public:
   explicit RecordingScroller(CallLog& LogA) : mLog(LogA) {}
@@ -57,12 +89,18 @@ class RecordingScroller final : public ITimelineScroll {
   void SetShowMarkers(bool ShowA) override { Put("ShowMarkers", mShowMarkers, ShowA); }
 
   void MarkersClear() override { mLog.Note("Scroller.MarkersClear"); }
-  std::int32_t MarkersCount() const override { return mLog.Pass("Scroller.MarkersCount"), 0; }
-  void MarkerAdd(Date, StringView, StringView, bool) override { mLog.Note("Scroller.MarkerAdd"); }
-  void MarkerRemove(const Variant&) override { mLog.Note("Scroller.MarkerRemove"); }
-  Ref<ITimeScaleMarker> Marker(const Variant&) const override {
-    return mLog.Pass("Scroller.Marker"), nullptr;
+  std::int32_t MarkersCount() const override { return mLog.Pass("Scroller.MarkersCount"), markersCount; }
+  void MarkerAdd(Date WorldTimeA, StringView KeyA, StringView CaptionA, bool VisibleA) override {
+    mLog.Note("Scroller.MarkerAdd", " (" + ValueText(WorldTimeA) + ", " + ValueText(KeyA) + ", " +
+                                        ValueText(CaptionA) + ", " + (VisibleA ? "true" : "false") + ")");
   }
+  void MarkerRemove(const Variant& KeyIndexA) override {
+    mLog.Note("Scroller.MarkerRemove", " (" + ValueText(KeyIndexA) + ")");
+  }
+  Ref<ITimeScaleMarker> Marker(const Variant&) const override { return mLog.Pass("Scroller.Marker"), marker; }
+
+  Ref<ITimeScaleMarker> marker;
+  std::int32_t markersCount = 0;
 
  private:
   template <class T>
