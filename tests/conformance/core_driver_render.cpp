@@ -32,16 +32,30 @@ const Members& ControlMembers() {
       {"RenderConfig", {Bind(&T::RenderConfig), {}}},
       {"SelectedKey", {Bind(&T::SelectedKey), {}}},
       {"ShowToolTips", {Bind(&T::ShowToolTips), Bind(&T::SetShowToolTips)}},
+      {"TLObject_BackColor", {Bind(&T::TLObject_BackColor), Bind(&T::SetTLObject_BackColor)}},
+      {"TLObject_Caption", {Bind(&T::TLObject_Caption), Bind(&T::SetTLObject_Caption)}},
+      {"TLObject_ForeColor", {Bind(&T::TLObject_ForeColor), Bind(&T::SetTLObject_ForeColor)}},
+      {"TLObject_Visible", {Bind(&T::TLObject_Visible), Bind(&T::SetTLObject_Visible)}},
       {"TZero", {Bind(&T::TZero), Bind(&T::SetTZero)}},
       {"TimeScaleBackColor", {Bind(&T::TimeScaleBackColor), Bind(&T::SetTimeScaleBackColor)}},
       {"TimeScaleForeColor", {Bind(&T::TimeScaleForeColor), Bind(&T::SetTimeScaleForeColor)}},
       {"TimeScaleFormatString", {Bind(&T::TimeScaleFormatString), Bind(&T::SetTimeScaleFormatString)}},
       {"TimeScaleFormatStyle", {Bind(&T::TimeScaleFormatStyle), Bind(&T::SetTimeScaleFormatStyle)}},
       {"TimeScaleHeight", {Bind(&T::TimeScaleHeight), Bind(&T::SetTimeScaleHeight)}},
+      {"TimeScaleMarkerAdd", {Bind(&T::TimeScaleMarkerAdd, {Variant(u""), Variant(true)}), {}}},
+      {"TimeScaleMarkerCaption", {Bind(&T::TimeScaleMarkerCaption), Bind(&T::SetTimeScaleMarkerCaption)}},
+      {"TimeScaleMarkerDefinition", {Bind(&T::TimeScaleMarkerDefinition), {}}},
       {"TimeScaleMarkerHighlightColor",
        {Bind(&T::TimeScaleMarkerHighlightColor), Bind(&T::SetTimeScaleMarkerHighlightColor)}},
       {"TimeScaleMarkerHighlightWidth",
        {Bind(&T::TimeScaleMarkerHighlightWidth), Bind(&T::SetTimeScaleMarkerHighlightWidth)}},
+      {"TimeScaleMarkerRemove", {Bind(&T::TimeScaleMarkerRemove), {}}},
+      {"TimeScaleMarkerTag", {Bind(&T::TimeScaleMarkerTag), Bind(&T::SetTimeScaleMarkerTag)}},
+      {"TimeScaleMarkerUserData", {Bind(&T::TimeScaleMarkerUserData), Bind(&T::SetTimeScaleMarkerUserData)}},
+      {"TimeScaleMarkerWorldTime",
+       {Bind(&T::TimeScaleMarkerWorldTime), Bind(&T::SetTimeScaleMarkerWorldTime)}},
+      {"TimeScaleMarkersClear", {Bind(&T::TimeScaleMarkersClear), {}}},
+      {"TimeScaleMarkersCount", {Bind(&T::TimeScaleMarkersCount), {}}},
       {"Timeline", {Bind(&T::Timeline), Bind(&T::SetTimeline)}},
       {"TimesOffsetMode", {Bind(&T::TimesOffsetMode), Bind(&T::SetTimesOffsetMode)}},
       {"ToolTipText", {Bind(&T::ToolTipText), Bind(&T::SetToolTipText)}},
@@ -50,6 +64,17 @@ const Members& ControlMembers() {
       {"WorldTimeT0", {Bind(&T::WorldTimeT0), Bind(&T::SetWorldTimeT0)}},
       {"XToWorldTime", {Bind(&T::XToWorldTime), {}}},
       {"YToTrackKey", {Bind(&T::YToTrackKey), {}}},
+  };
+  return kMembers;
+}
+
+const Members& MarkerMembers() {
+  using T = ITimeScaleMarker;
+  static const Members kMembers = {
+      {"Caption", {Bind(&T::Caption), Bind(&T::SetCaption)}},
+      {"Tag", {Bind(&T::Tag), Bind(&T::SetTag)}},
+      {"UserData", {Bind(&T::UserData), Bind(&T::SetUserData)}},
+      {"WorldTime", {Bind(&T::WorldTime), Bind(&T::SetWorldTime)}},
   };
   return kMembers;
 }
@@ -155,8 +180,9 @@ void CoreRenderDriver::Drag(const Ref<Object>& ObjectA, const std::string& PartA
 }
 
 const Members* CoreRenderDriver::MembersOf(const Object& ObjectA) const {
-  return dynamic_cast<const MURTimelineRender*>(&ObjectA) ? &ControlMembers()
-                                                          : CoreDriver::MembersOf(ObjectA);
+  if (dynamic_cast<const MURTimelineRender*>(&ObjectA)) return &ControlMembers();
+  if (dynamic_cast<const ITimeScaleMarker*>(&ObjectA)) return &MarkerMembers();
+  return CoreDriver::MembersOf(ObjectA);
 }
 
 }  // namespace mur::test
