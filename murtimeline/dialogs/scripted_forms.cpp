@@ -23,17 +23,13 @@ std::function<void()> Playing(const Script& ScriptA, Form& FormA) {
 ScriptedWindow::ScriptedWindow(ScriptedForms& FormsA, std::function<void()> ScriptA)
     : mForms(FormsA), mScript(std::move(ScriptA)) {}
 
-const ScriptedWindow::Button& ScriptedWindow::ButtonAt(int IndexA) const {
+std::size_t ScriptedWindow::PlaceOf(int IndexA) {
   if (IndexA < 1 || IndexA > kSystemButtons) throw AutomationError(ErrorCode::SubscriptOutOfRange);
-  return mButtons[static_cast<std::size_t>(IndexA - 1)];
-}
-
-ScriptedWindow::Button& ScriptedWindow::ButtonAt(int IndexA) {
-  return const_cast<Button&>(std::as_const(*this).ButtonAt(IndexA));
+  return static_cast<std::size_t>(IndexA - 1);
 }
 
 void ScriptedWindow::Press(int IndexA) {
-  if (mIsShown && IndexA != 0 && ButtonAt(IndexA).visible) SystemClick.Raise(IndexA);
+  if (mIsShown && IndexA != 0 && mButtons[PlaceOf(IndexA)].visible) SystemClick.Raise(IndexA);
 }
 
 void ScriptedWindow::PressCloseBox() {
@@ -66,17 +62,17 @@ void ScriptedWindow::SetCommentary(StringView TextA) {
 
 String ScriptedWindow::SystemCaption(int IndexA) const {
   mForms.Observe("SystemCaption", std::to_string(IndexA));
-  return ButtonAt(IndexA).caption;
+  return mButtons[PlaceOf(IndexA)].caption;
 }
 
 void ScriptedWindow::SetSystemCaption(int IndexA, StringView TextA) {
   mForms.Observe("SetSystemCaption", std::to_string(IndexA) + ", " + ToUtf8(TextA));
-  ButtonAt(IndexA).caption = TextA;
+  mButtons[PlaceOf(IndexA)].caption = TextA;
 }
 
 void ScriptedWindow::SetSystemVisible(int IndexA, bool VisibleA) {
   mForms.Observe("SetSystemVisible", std::to_string(IndexA) + (VisibleA ? ", true" : ", false"));
-  ButtonAt(IndexA).visible = VisibleA;
+  mButtons[PlaceOf(IndexA)].visible = VisibleA;
 }
 
 void ScriptedWindow::SetSystemDefault(int IndexA) {

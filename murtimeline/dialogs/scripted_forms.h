@@ -24,7 +24,7 @@ class MUR_API ScriptedWindow final : public IDialogWindow {
   /// The window goes without being closed, as when the window that it stands on is destroyed.
   void Vanish() { mIsShown = false; }
 
-  bool IsSystemVisible(int IndexA) const { return ButtonAt(IndexA).visible; }
+  bool IsSystemVisible(int IndexA) const { return mButtons[PlaceOf(IndexA)].visible; }
 
   String Title() const override;
   void SetTitle(StringView TextA) override;
@@ -49,8 +49,7 @@ class MUR_API ScriptedWindow final : public IDialogWindow {
     bool visible = true;
   };
 
-  const Button& ButtonAt(int IndexA) const;
-  Button& ButtonAt(int IndexA);
+  static std::size_t PlaceOf(int IndexA);
   void Close(UnloadRequest RequestA);
 
   ScriptedForms& mForms;

@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTableView>
 #include <QTextCharFormat>
 #include <QTimeEdit>
 #include <memory>
@@ -77,6 +78,24 @@ TEST_F(DateTimeWindowTest, IsAcceptedByEnterInTheCalendar) {
     EXPECT_FALSE(dialog->Cancelled());
   }
   EXPECT_EQ(dialog->TheDateTime(), DateOf(2000, 1, 3, 6));
+}
+
+TEST_F(DateTimeWindowTest, LetsNoDayBeTyped) {
+  Show([](QWidget& window) { Type(window, {Qt::Key_2, Qt::Key_0, Qt::Key_Return}); });
+  EXPECT_EQ(dialog->TheDateTime(), kMorning);
+}
+
+TEST_F(DateTimeWindowTest, StaysOpenWhenADayIsDoubleClicked) {
+  Show([](QWidget& window) {
+    auto* const days = Part<QCalendarWidget>(window, "mnvTheDate").findChild<QTableView*>();
+    ASSERT_TRUE(days);
+    Type(window, {Qt::Key_Right});
+    const QPoint middle = days->viewport()->rect().center();
+    QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, middle);
+    QTest::mouseDClick(days->viewport(), Qt::LeftButton, {}, middle);
+    EXPECT_TRUE(window.isVisible());
+    Type(window, {Qt::Key_Escape});
+  });
 }
 
 TEST_F(DateTimeWindowTest, ReadsZeroAfterEscAndTheCloseBox) {

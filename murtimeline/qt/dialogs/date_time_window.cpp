@@ -1,5 +1,5 @@
+#include <QEvent>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QTableView>
 #include <QTextCharFormat>
@@ -38,6 +38,7 @@ DateTimeWindow::DateTimeWindow(QWidget* OwnerA)
   mDate->setObjectName("mnvTheDate");
   mDate->setAccessibleName("Date");
   mDate->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  mDate->setDateEditEnabled(false);  // what is typed would start from today, not from the day shown
   mDate->setDateRange(ToQDateTime(Date::Unchecked(Date::kLowestDays)).date(),
                       ToQDateTime(Date::Unchecked(Date::kHighestDays)).date());
   connect(mDate, &QCalendarWidget::selectionChanged, this, [this] {
@@ -46,7 +47,13 @@ DateTimeWindow::DateTimeWindow(QWidget* OwnerA)
   });
   DressCalendar();
   mDate->setMinimumSize(mDate->sizeHint() + QSize(0, kAir));
-  for (QTableView* const days : mDate->findChildren<QTableView*>()) days->installEventFilter(this);
+  for (QTableView* const days : mDate->findChildren<QTableView*>()) {
+    days->installEventFilter(this);
+    days->viewport()->installEventFilter(this);
+  }
+  connect(mDate, &QCalendarWidget::activated, this, [this] {
+    if (mIsByKey) PressDefault();
+  });
   mTime->setObjectName("dtpTheTime");
   mTime->setDisplayFormat(TimeFormat(mTime->locale()));
   mMoment->setObjectName("lblDateTime");
@@ -95,14 +102,12 @@ void DateTimeWindow::SetDateValue(Date ValueA) {
   mDate->setSelectedDate(ToQDateTime(ValueA).date());
 }
 
-// The calendar keeps Enter for itself; here it is the default button's.
+// A day is activated by Enter as well as by a double click. Only the former is meant for the default button,
+// and only when the calendar has no day being typed to end with it.
 bool DateTimeWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::KeyPress) return DialogWindow::eventFilter(watched, event);
-  auto& key = static_cast<QKeyEvent&>(*event);
-  if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter)
-    return DialogWindow::eventFilter(watched, event);
-  keyPressEvent(&key);
-  return true;
+  if (event->type() == QEvent::KeyPress) mIsByKey = true;
+  if (event->type() == QEvent::MouseButtonPress) mIsByKey = false;
+  return DialogWindow::eventFilter(watched, event);
 }
 
 }  // namespace mur::qt

@@ -36,6 +36,7 @@ class DateTimeWindow final : public DialogWindow {
   TimeField* mTime;
   QLabel* mMoment;
   Date mDateValue;
+  bool mIsByKey = false;  // the last input to the calendar
 };
 
 }  // namespace mur::qt

@@ -142,6 +142,12 @@ void DialogWindow::Abandon() {
   Leave();
 }
 
+void DialogWindow::PressDefault() {
+  const auto isDefault = [](const QPushButton* button) { return button->isDefault() && button->isVisible(); };
+  const auto button = std::ranges::find_if(mSystemButtons, isDefault);
+  if (button != mSystemButtons.end()) (*button)->click();
+}
+
 void DialogWindow::reject() {
   if (mCancelButton && mCancelButton->isVisible()) mCancelButton->click();
 }

@@ -35,6 +35,8 @@ class DialogWindow : public QDialog {
   /// Goes from the screen without asking anyone.
   void Leave();
 
+  /// Enter, where a field keeps the key to itself.
+  void PressDefault();
   /// Esc.
   void reject() override;
 
