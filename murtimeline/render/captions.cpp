@@ -83,6 +83,12 @@ String Captions::ComposeAutoCaption(const IMURTimelineObject& ObjectA, std::int3
   return text;
 }
 
+String Captions::WorldTimeText(Date TimeA) const {
+  String text;
+  ResumeNext([&] { text = FormatWorldTimeText(TimeA); });
+  return text;
+}
+
 bool Captions::AreAutomatic() const {
   const auto& types = mState.autoObjectCaption;
   return std::any_of(types.begin(), types.end(), IsAutomatic);

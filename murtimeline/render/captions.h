@@ -12,6 +12,8 @@ class Captions {
 
   /// The text of one caption kind; empty for a kind that has none, and when an object or service fails.
   String ComposeAutoCaption(const IMURTimelineObject& ObjectA, std::int32_t TypeA) const;
+  /// A time as captions show it; empty when the service fails.
+  String WorldTimeText(Date TimeA) const;
   /// Whether any site has an automatic kind.
   bool AreAutomatic() const;
   /// Writes every site that has an automatic kind; the others keep what they show.

@@ -19,13 +19,20 @@ void Interaction::Listen(Event<Arguments...>& EventA, Handler HandlerA) {
   }));
 }
 
+template <class ItemEvent, class Handler>
+void Interaction::ListenToItems(ItemEvent& EventA, Handler HandlerA) {
+  Listen(EventA, [HandlerA](const ItemRef& item, auto&... arguments) {
+    if (const ItemRef held = item) HandlerA(held, arguments...);
+  });
+}
+
 void Interaction::Attach() {
   const auto forward = [this]<class... Arguments>(Event<Arguments...>& from, Event<Arguments...>& to) {
     Listen(from, [&to](Arguments... arguments) { to.Raise(arguments...); });
   };
   // Reports on an item, told as reports on the bar's object or the cursor.
   const auto translate = [this](auto& from, const auto& object, const auto& cursor) {
-    Listen(from, [this, &object, &cursor](const ItemRef& item, auto&... arguments) {
+    ListenToItems(from, [this, &object, &cursor](const ItemRef& item, auto&... arguments) {
       RaiseFor(SubjectOf(*item), object, cursor, arguments...);
     });
   };
@@ -40,18 +47,18 @@ void Interaction::Attach() {
   forward(canvas.OLEDragOver, owner.OLEDragOver);
   translate(canvas.ItemOLEDragDrop, owner.TLObjectOLEDragDrop, owner.CursorOLEDragDrop);
   translate(canvas.ItemOLEDragOver, owner.TLObjectOLEDragOver, owner.CursorOLEDragOver);
-  Listen(canvas.ItemClick, [this](const ItemRef& item) {
-    OnItemClick(*item, kClicks, mOwner.TLObjectClick, mOwner.CursorClick);
+  ListenToItems(canvas.ItemClick, [this](const ItemRef& item) {
+    OnItemClick(item, kClicks, mOwner.TLObjectClick, mOwner.CursorClick);
   });
-  Listen(canvas.ItemDblClick, [this](const ItemRef& item) {
-    OnItemClick(*item, kDblClicks, mOwner.TLObjectDblClick, mOwner.CursorDblClick);
+  ListenToItems(canvas.ItemDblClick, [this](const ItemRef& item) {
+    OnItemClick(item, kDblClicks, mOwner.TLObjectDblClick, mOwner.CursorDblClick);
   });
-  Listen(canvas.ItemMouseDown,
-         [this](const ItemRef& item, auto&... pointer) { OnItemMouseDown(*item, pointer...); });
-  Listen(canvas.ItemMouseMove,
-         [this](const ItemRef& item, auto&... pointer) { OnItemMouseMove(*item, pointer...); });
-  Listen(canvas.ItemMouseUp,
-         [this](const ItemRef& item, auto&... pointer) { OnItemMouseUp(*item, pointer...); });
+  ListenToItems(canvas.ItemMouseDown,
+                [this](const ItemRef& item, auto&... pointer) { OnItemMouseDown(item, pointer...); });
+  ListenToItems(canvas.ItemMouseMove,
+                [this](const ItemRef& item, auto&... pointer) { OnItemMouseMove(item, pointer...); });
+  ListenToItems(canvas.ItemMouseUp,
+                [this](const ItemRef& item, auto&... pointer) { OnItemMouseUp(item, pointer...); });
 }
 
 // The object of a bar, none for the cursor. A bar whose key names no object is an error, which ends the
@@ -63,42 +70,45 @@ Interaction::ObjectRef Interaction::SubjectOf(const ICanvasItem& ItemA) const {
   return object;
 }
 
-void Interaction::OnItemMouseDown(const ICanvasItem& ItemA, std::int16_t& ButtonA, std::int16_t& ShiftA,
+void Interaction::OnItemMouseDown(const ItemRef& ItemA, std::int16_t& ButtonA, std::int16_t& ShiftA,
                                   float& XA, float& YA) {
   const bool takesUp = mState.allowObjectDragging && (ButtonA & kLeftButton) != 0;
   if (takesUp) mDragActive = true;
   mMouseX = XA;
   mMouseButton = ButtonA;
-  const ObjectRef object = SubjectOf(ItemA);
+  const ObjectRef object = SubjectOf(*ItemA);
   if (takesUp) mTaken = Taken{object, object ? object->WorldTimeT0() : mState.cursorTime};
   RaiseFor(object, mOwner.TLObjectMouseDown, mOwner.CursorMouseDown, ButtonA, ShiftA, XA, YA);
 }
 
-void Interaction::OnItemMouseMove(const ICanvasItem& ItemA, std::int16_t& ButtonA, std::int16_t& ShiftA,
+void Interaction::OnItemMouseMove(const ItemRef& ItemA, std::int16_t& ButtonA, std::int16_t& ShiftA,
                                   float& XA, float& YA) {
-  const ObjectRef object = SubjectOf(ItemA);
-  if (mDragActive) DragTo(ItemA, object, XA);
+  const ObjectRef object = SubjectOf(*ItemA);
+  if (mDragActive) {
+    DragTo(*ItemA, object, XA);
+    ShowTime(ItemA, object);
+  }
   RaiseFor(object, mOwner.TLObjectMouseMove, mOwner.CursorMouseMove, ButtonA, ShiftA, XA, YA);
 }
 
 // The drag ends with the release, whatever fails: an item that is off the canvas or without an object must
 // not leave one behind.
-void Interaction::OnItemMouseUp(const ICanvasItem& ItemA, std::int16_t& ButtonA, std::int16_t& ShiftA,
-                                float& XA, float& YA) {
+void Interaction::OnItemMouseUp(const ItemRef& ItemA, std::int16_t& ButtonA, std::int16_t& ShiftA, float& XA,
+                                float& YA) {
   const bool wasDragged = std::exchange(mDragActive, false);
   mTaken.reset();
-  const ObjectRef object = SubjectOf(ItemA);
-  if (wasDragged) DragTo(ItemA, object, XA);
+  HideTime();
+  const ObjectRef object = SubjectOf(*ItemA);
+  if (wasDragged) DragTo(*ItemA, object, XA);
   RaiseFor(object, mOwner.TLObjectMouseUp, mOwner.CursorMouseUp, ButtonA, ShiftA, XA, YA);
 }
 
-void Interaction::OnItemClick(const ICanvasItem& ItemA, const ClickTypes& TypesA,
+void Interaction::OnItemClick(const ItemRef& ItemA, const ClickTypes& TypesA,
                               const Event<const ObjectRef&>& ObjectEventA,
                               const Event<StringView>& CursorEventA) {
-  const ObjectRef object = SubjectOf(ItemA);
+  const ObjectRef object = SubjectOf(*ItemA);
   if (object && (mState.autoSelectMode & ClickType(TypesA)) != 0) {
-    const String key = ItemA.Key();
-    mState.selectedKey = key;
+    mState.selectedKey = ItemA->Key();
     mHighlight.ShowSelection(object->KeyText().View());
   }
   RaiseFor(object, ObjectEventA, CursorEventA);
@@ -131,9 +141,24 @@ void Interaction::DragBar(IMURTimelineObject& ObjectA, float XA) const {
   ObjectA.SetWorldTimeT0(Date::FromDays(ObjectA.WorldTimeT0().Days() + delta / kSecondsPerDay));
 }
 
+// A host may have ended the drag in one of its events.
+void Interaction::ShowTime(const ItemRef& ItemA, const ObjectRef& ObjectA) const {
+  if (!mDragActive) return;
+  ResumeNext([&] {
+    const Date time = ObjectA ? ObjectA->WorldTimeT0() : mState.cursorTime;
+    mState.Canvas().ShowDragLabel(ItemA, mCaptions.WorldTimeText(time));
+  });
+}
+
+void Interaction::HideTime() const {
+  ResumeNext([&] { mState.Canvas().ShowDragLabel({}, {}); });
+}
+
 bool Interaction::CancelDrag() {
   const auto taken = std::exchange(mTaken, std::nullopt);
-  if (!std::exchange(mDragActive, false) || !taken) return false;
+  const bool wasDragged = std::exchange(mDragActive, false);
+  HideTime();
+  if (!wasDragged || !taken) return false;
   ResumeNext([&] {
     if (taken->object)
       taken->object->SetWorldTimeT0(taken->time);

@@ -266,6 +266,7 @@ void MURTimelineRender::SetAllowObjectDragging(bool AllowA) {
   if (mParts->state.allowObjectDragging == AllowA) return;
   mParts->state.allowObjectDragging = AllowA;
   constexpr int kEveryDrag = 15;
+  ResumeNext([&] { mParts->state.Canvas().SetItemsMovable(AllowA); });
   ResumeNext([&] {
     IGraphicCanvas& canvas = mParts->state.Canvas();
     const std::size_t count = canvas.GraphicCount();

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int kTwipsMode = 1;
 constexpr std::int16_t kNoDrops = 0;
+constexpr int kMovesAlong = 4;  // a drag flag
 
 }  // namespace
 
@@ -26,6 +27,8 @@ void MURGraphicCanvas::Paint(Surface& SurfaceA, const RectF& DirtyA) {
   SurfaceA.FillRectangle(DirtyA, ResolveColor(mBackColor, mHost));
   const float width = mHost.Width() / ChildHost::kTwipsPerPixel;
   CanvasPainter(SurfaceA, *mScene, mHost, DirtyA, width).Paint();
+  if (const auto& item = mLabel.Item(); item && Holds(*item))
+    mLabel.Paint(SurfaceA, PixelBounds(*item), Area(), mHost);
   SurfaceA.PopClip();
   mScene->Requests().Painted();
 }
@@ -92,6 +95,18 @@ void MURGraphicCanvas::Dropped(DragInput& InputA) {
   }
 }
 
+bool MURGraphicCanvas::IsMovable(const ICanvasItem& ItemA) const {
+  return mItemsMovable || (ItemA.DragFlags() & kMovesAlong) != 0;
+}
+
+void MURGraphicCanvas::ShowDragLabel(Item ItemA, StringView TextA) {
+  if (mLabel.Item()) mScene->Requests().Request(mLabelBand);
+  mLabel.Set(ItemA && Holds(*ItemA) ? ItemA : Ref<ICanvasItem>(), TextA);
+  if (!mLabel.Item()) return;
+  mLabelBand = mLabel.BandFor(PixelBounds(*ItemA), Area());
+  mScene->Requests().Request(mLabelBand);
+}
+
 void MURGraphicCanvas::SetBackColor(OleColor ColorA) {
   if (std::exchange(mBackColor, ColorA) != ColorA) mScene->Requests().RequestAll();
 }
@@ -146,8 +161,8 @@ Ref<ICanvasItem> MURGraphicCanvas::ItemInSlot(std::size_t SlotA) const {
   return SlotA == Items::kNone ? Ref<ICanvasItem>() : mItems.At(SlotA);
 }
 
-float MURGraphicCanvas::PixelsPerUnit() const {
-  return mScaleMode == kTwipsMode ? 1 / ChildHost::kTwipsPerPixel : 1;
+float MURGraphicCanvas::UnitsPerPixel() const {
+  return mScaleMode == kTwipsMode ? ChildHost::kTwipsPerPixel : 1;
 }
 
 }  // namespace mur

@@ -5,6 +5,7 @@
 #include <murtimeline/render/companions/canvas_interface.h>
 #include <murtimeline/render/companions/canvas_item.h>
 #include <murtimeline/render/companions/canvas_pointer.h>
+#include <murtimeline/render/companions/drag_label.h>
 #include <murtimeline/render/port/child_host.h>
 #include <murtimeline/render/port/surface.h>
 
@@ -33,7 +34,7 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas, public PointerTarg
   RectF PixelBounds(const ICanvasItem& ItemA) const;
 
   /// The same for a point, the other way round: pixels to canvas units.
-  PointF UnitsAt(PointF PointA) const { return {PointA.x / PixelsPerUnit(), PointA.y / PixelsPerUnit()}; }
+  PointF UnitsAt(PointF PointA) const { return {PointA.x * UnitsPerPixel(), PointA.y * UnitsPerPixel()}; }
   /// A point (pixels) as an item sees it: canvas units from its left top corner.
   PointF PointOn(const ICanvasItem& ItemA, PointF PointA) const;
   /// The drawing area, in pixels.
@@ -76,6 +77,10 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas, public PointerTarg
   }
   Ref<ICanvasItem> AddGraphicSharing(const SharedText& KeyA, int KindA) override;
   void RemoveGraphic(const Variant& KeyIndexA) override;
+  void SetItemsMovable(bool MovableA) override { mItemsMovable = MovableA; }
+  /// Whether the left button would drag an item along the time axis.
+  bool IsMovable(const ICanvasItem& ItemA) const;
+  void ShowDragLabel(Item ItemA, StringView TextA) override;
   std::optional<std::uint64_t> ColorRevision() const override { return mScene->ColorRevision(); }
 
  private:
@@ -85,7 +90,8 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas, public PointerTarg
   using Items = KeyedSequence<Ref<CanvasItem>, KeyOf>;
 
   Ref<ICanvasItem> ItemInSlot(std::size_t SlotA) const;
-  float PixelsPerUnit() const;
+  float UnitsPerPixel() const;
+  float PixelsPerUnit() const { return 1 / UnitsPerPixel(); }
 
   ChildHost& mHost;
   Ref<CanvasScene> mScene;
@@ -94,6 +100,9 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas, public PointerTarg
   int mScaleMode = 1;
   std::int16_t mOLEDropMode = 0;
   bool mShowToolTips = true;
+  bool mItemsMovable = false;
+  DragLabel mLabel;
+  RectF mLabelBand;  // where it was put
   CanvasPointer mPointer{*this};
 };
 

@@ -77,6 +77,11 @@ class MUR_API IGraphicCanvas : public Object {
   /// Throws SubscriptOutOfRange when there is no such item.
   virtual void RemoveGraphic(const Variant& KeyIndexA) = 0;
 
+  /// Whether a press takes items up, the cursor included; for the shape of the pointer.
+  virtual void SetItemsMovable(bool /*MovableA*/) {}
+  /// Shows a text at the left edge of an item that is being dragged, in place of an earlier one; an empty
+  /// text takes it away.
+  virtual void ShowDragLabel(Item /*ItemA*/, StringView /*TextA*/) {}
   /// A stamp that moves by one whenever an item comes, goes or is put a back colour, the same one included;
   /// none for canvases that keep no such stamp.
   virtual std::optional<std::uint64_t> ColorRevision() const { return std::nullopt; }

@@ -6,8 +6,6 @@
 namespace mur {
 namespace {
 
-constexpr int kMovesAlong = 4;  // a drag flag
-
 std::int16_t Joined(std::int16_t ButtonsA, std::int16_t PressedA) {
   return static_cast<std::int16_t>(ButtonsA | PressedA);
 }
@@ -22,6 +20,7 @@ std::int16_t Without(std::int16_t ButtonsA, std::int16_t ReleasedA) {
 
 void CanvasPointer::Press(const PointerInput& InputA, bool IsDoubleA) {
   const Ref<MURGraphicCanvas> keep(&mCanvas);
+  if ((mHeld & InputA.button) != 0) Lose();  // its release was not reported
   if (mHeld == 0) mSubject = SubjectAt(InputA.at);
   mLast = InputA;
   mHeld = Joined(mHeld, InputA.button);
@@ -112,7 +111,7 @@ void CanvasPointer::Raise(const PointerEventOf<>& BackgroundA,
 // Of what is under the pointer now, which a listener may have changed.
 void CanvasPointer::ShowShape() const {
   const Subject subject = mHeld == 0 ? SubjectAt(mLast.at) : mSubject;
-  const bool moves = subject.item && !subject.isGone && (subject.item->DragFlags() & kMovesAlong) != 0;
+  const bool moves = subject.item && !subject.isGone && mCanvas.IsMovable(*subject.item);
   const bool isHeld = (mHeld & kLeftButton) != 0;
   mCanvas.Host().SetPointerShape(!moves   ? PointerShape::Standard
                                  : isHeld ? PointerShape::Moves
