@@ -70,7 +70,9 @@ TimelineWidget::Parts::Parts(QWidget& OwnerA)
   canvasWidget->SetPaint(paint(*canvas));
   canvasWidget->SetPointer(*canvas);
   if (auto* pointer = dynamic_cast<PointerTarget*>(scroller.Get())) scaleWidget->SetPointer(*pointer);
-  scaleWidget->SetToolTip([this](PointF) { return HoverText{scaleHost.ToolTipText(), {}}; });
+  scaleWidget->SetToolTip([this](PointF point) {
+    return HoverText{scroller->ToolTipAt(point), scroller->ToolTipAreaAt(point)};
+  });
   canvasWidget->SetToolTip([this](PointF point) {
     const Ref<ICanvasItem> item = canvas->ItemAt(point);
     return HoverText{canvas->ToolTipAt(point), item ? canvas->PixelBounds(*item) : RectF()};

@@ -140,6 +140,32 @@ class MUR_API TimelineWidget : public TimelineEvents {
   Ref<CMURTLRenderConfig> renderConfig(const QVariant& keyIndex) const;
   Ref<CMURTLRenderConfig> addRenderConfig(const QVariant& keyIndex);
 
+  // Markers on the time scale, by key or position there; without such a marker readers find the empty value.
+  Q_INVOKABLE void timeScaleMarkersClear();
+  Q_INVOKABLE int timeScaleMarkersCount() const;
+  Q_INVOKABLE void timeScaleMarkerAdd(const QDateTime& worldTime, const QString& markerKey,
+                                      const QString& caption = {}, bool visible = true);
+  Q_INVOKABLE void timeScaleMarkerRemove(const QVariant& keyIndex);
+  Q_INVOKABLE QDateTime timeScaleMarkerWorldTime(const QVariant& keyIndex) const;
+  Q_INVOKABLE void setTimeScaleMarkerWorldTime(const QVariant& keyIndex, const QDateTime& worldTime);
+  Q_INVOKABLE QString timeScaleMarkerCaption(const QVariant& keyIndex) const;
+  Q_INVOKABLE void setTimeScaleMarkerCaption(const QVariant& keyIndex, const QString& caption);
+  Q_INVOKABLE QString timeScaleMarkerTag(const QVariant& keyIndex) const;
+  Q_INVOKABLE void setTimeScaleMarkerTag(const QVariant& keyIndex, const QString& tag);
+  Q_INVOKABLE QVariant timeScaleMarkerUserData(const QVariant& keyIndex) const;
+  Q_INVOKABLE void setTimeScaleMarkerUserData(const QVariant& keyIndex, const QVariant& userData);
+  Ref<ITimeScaleMarker> timeScaleMarkerDefinition(const QVariant& keyIndex) const;
+
+  // Appearance of one bar, by key or position on the canvas; lasts until the control writes the same itself.
+  Q_INVOKABLE quint32 tlObjectBackColor(const QVariant& keyIndex) const;
+  Q_INVOKABLE void setTlObjectBackColor(const QVariant& keyIndex, quint32 color);
+  Q_INVOKABLE quint32 tlObjectForeColor(const QVariant& keyIndex) const;
+  Q_INVOKABLE void setTlObjectForeColor(const QVariant& keyIndex, quint32 color);
+  Q_INVOKABLE QString tlObjectCaption(const QVariant& keyIndex, int captionSite) const;
+  Q_INVOKABLE void setTlObjectCaption(const QVariant& keyIndex, int captionSite, const QString& caption);
+  Q_INVOKABLE bool tlObjectVisible(const QVariant& keyIndex) const;
+  Q_INVOKABLE void setTlObjectVisible(const QVariant& keyIndex, bool visible);
+
   // Navigation: writes worldTimeT0 and duration as a host would.
   /// Off at first. While on, the wheel zooms where the pointer is, with Shift it pans, and a drag on the
   /// background of the canvas pans.
