@@ -238,6 +238,28 @@ TEST(DateTimePickerObject, LetsAHandlerRefuseAndChangeTheMoment) {
   EXPECT_EQ(picker.dateTime(), QDateTime(QDate(2000, 1, 21), QTime(6, 0)));
 }
 
+TEST(DateTimePickerObject, MayBeDeletedByItsOwnHandler) {
+  for (const bool withParent : {false, true})
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+      QPointer<QWidget> parent = new QWidget;
+      QPointer<DateTimePicker> picker = new DateTimePicker(parent);
+      QObject::connect(picker, &DateTimePicker::validateSelectedDate, [&] {
+        if (withParent) {
+          delete parent;
+        } else {
+          delete picker;
+        }
+      });
+      AtNextWindow([key](QWidget& window) {
+        Part<QWidget>(window, "bSystem2").setFocus();
+        Type(window, {key});
+      });
+      EXPECT_FALSE(picker->exec());
+      EXPECT_FALSE(picker);
+      delete parent;
+    }
+}
+
 TEST(DateTimePickerObject, MayGoWithItsParentWhileItsWindowsAreOpen) {
   for (const bool withMessage : {false, true}) {
     QPointer<QWidget> parent = new QWidget;

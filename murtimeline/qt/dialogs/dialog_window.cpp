@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <algorithm>
 
@@ -153,8 +154,9 @@ void DialogWindow::reject() {
 }
 
 void DialogWindow::closeEvent(QCloseEvent* event) {
+  const QPointer<DialogWindow> self(this);
   Q_EMIT closeBoxClicked();
-  event->setAccepted(!isVisible());
+  event->setAccepted(!self || !isVisible());
 }
 
 }  // namespace mur::qt
