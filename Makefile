@@ -7,7 +7,7 @@ VIEWER := $(RELEASE)/bin/murtimeline-viewer
 BENCH := $(RELEASE)/bin/mur_bench
 
 .DEFAULT_GOAL := help
-.PHONY: help demo test viewer bench format check coverage packages
+.PHONY: help demo picture test viewer bench format check coverage packages
 
 help: ## this list
 	@awk -F ': .*## ' '/^[a-z]+: .*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
@@ -18,6 +18,11 @@ demo: viewer ## show SAMPLE in the viewer; without a display, write the picture 
 	else \
 	  QT_QPA_PLATFORM=offscreen $(VIEWER) $(SAMPLE) --png $(PICTURE) && echo $(PICTURE); \
 	fi
+
+picture: packages ## draw the viewer's window for the README (docs/viewer.png)
+	@cmake --preset release
+	@cmake --build $(RELEASE) --target viewer_picture
+	@$(RELEASE)/bin/viewer_picture viewer/samples/feature_film.otio docs/viewer.png && echo docs/viewer.png
 
 test: packages ## build and run all tests, plain and under the sanitizers
 	@tools/run_tests

@@ -16,7 +16,14 @@ class EventLog {
 
  private:
   void FollowTimeline(CMURTimeline& TimelineA);
-  void FollowControl(MURTimelineRender& ControlA);
+  void FollowObjects(CMURTimeline& TimelineA);
+  void FollowPointer(MURTimelineRender& ControlA);
+  void FollowDragAndDrop(MURTimelineRender& ControlA);
+  void FollowTimeScale(MURTimelineRender& ControlA);
+
+  /// Connects an event whose arguments are written as they stand.
+  template <class... Arguments>
+  void Follow(Event<Arguments...>& EventA, const char* NameA);
 
   LineSink mSink;
   std::vector<Connection> mConnections;

@@ -10,6 +10,7 @@
 #include "viewer/exact_table.h"
 #include "viewer/headless_control.h"
 #include "viewer/output_file.h"
+#include "viewer/page.h"
 #include "viewer/pictures.h"
 #include "viewer/presentation.h"
 
@@ -47,6 +48,8 @@ void RunHeadless(const Options& OptionsA, std::ostream& OutA, std::ostream& Note
   PresentFile(control.Control(), file, {OptionsA.from, OptionsA.duration});
   if (!OptionsA.png.isEmpty()) WritePng(OptionsA.png, control);
   if (!OptionsA.svg.isEmpty()) WriteSvg(OptionsA.svg, control);
+  if (!OptionsA.pdf.isEmpty())
+    WritePdf(OptionsA.pdf, control, TitleOf(OptionsA.file, file, control.Control()));
 }
 
 }  // namespace mur::viewer

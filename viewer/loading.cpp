@@ -58,6 +58,8 @@ LoadedFile LoadFile(const QString& PathA, CMURTimeline& TimelineA, const Progres
   Document document = ReadFile(PathA, bytes, reading);
   Progress filling(ProgressA, kReadingShare, 1);
   const std::vector<String> keys = FillTimeline(TimelineA, document, filling);
+  for (Marker& marker : document.markers)
+    if (marker.entry) marker.owner = keys[*marker.entry];
   LoadedFile file;
   if (document.kind == FileKind::OpenTimelineIO) file.edit = SourceOf(document, keys, bytes);
   file.kind = document.kind;

@@ -30,7 +30,7 @@ QStringList ArgumentsOf(int CountA, char** ValuesA) {
 int ShowWindow(const Options& OptionsA, int CountA, char** ValuesA) {
   const auto isEmpty = [](const char* name) { return qEnvironmentVariableIsEmpty(name); };
   if (isEmpty("DISPLAY") && isEmpty("WAYLAND_DISPLAY") && isEmpty("QT_QPA_PLATFORM"))
-    return Fail("there is no display; --png, --svg, --dump and --events need none");
+    return Fail("there is no display; --png, --svg, --pdf, --dump and --events need none");
   QCoreApplication::setApplicationVersion(QStringLiteral(MUR_VIEWER_VERSION));
   return RunWindow(OptionsA, CountA, ValuesA);
 }

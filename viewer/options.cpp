@@ -47,10 +47,11 @@ Options ParseOptions(const QStringList& ArgumentsA) {
   const QCommandLineOption size(QStringLiteral("size"), {}, QStringLiteral("SIZE"));
   const QCommandLineOption png(QStringLiteral("png"), {}, QStringLiteral("OUT"));
   const QCommandLineOption svg(QStringLiteral("svg"), {}, QStringLiteral("OUT"));
+  const QCommandLineOption pdf(QStringLiteral("pdf"), {}, QStringLiteral("OUT"));
   const QCommandLineOption dump(QStringLiteral("dump")), events(QStringLiteral("events"));
   const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
   const QCommandLineOption version(QStringList{QStringLiteral("v"), QStringLiteral("version")});
-  parser.addOptions({from, duration, size, png, svg, dump, events, help, version});
+  parser.addOptions({from, duration, size, png, svg, pdf, dump, events, help, version});
   if (!parser.parse(QStringList{QString()} + ArgumentsA)) Refuse(parser.errorText());
 
   Options options;
@@ -65,10 +66,12 @@ Options ParseOptions(const QStringList& ArgumentsA) {
   if (parser.isSet(size)) options.size = ParseSize(parser.value(size));
   options.png = parser.value(png);
   options.svg = parser.value(svg);
+  options.pdf = parser.value(pdf);
   options.dump = parser.isSet(dump);
   options.events = parser.isSet(events);
   if (parser.isSet(png) && options.png.isEmpty()) Refuse(QStringLiteral("--png needs a file name"));
   if (parser.isSet(svg) && options.svg.isEmpty()) Refuse(QStringLiteral("--svg needs a file name"));
+  if (parser.isSet(pdf) && options.pdf.isEmpty()) Refuse(QStringLiteral("--pdf needs a file name"));
   if (options.IsHeadless() && options.file.isEmpty()) Refuse(QStringLiteral("a FILE is needed"));
   return options;
 }
@@ -84,6 +87,7 @@ QString UsageText() {
       "  --size WIDTHxHEIGHT  size of the window or picture in pixels; the default is 1280x720\n"
       "  --png OUT            write a picture and show no window\n"
       "  --svg OUT            write a scalable picture and show no window\n"
+      "  --pdf OUT            write a page to print and show no window\n"
       "  --dump               print all objects, then each object's exact times\n"
       "  --events             print the events that loading raises\n"
       "  -h, --help           print this\n"

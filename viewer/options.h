@@ -21,7 +21,7 @@ struct Options {
   std::optional<TimeArgument> from;
   std::optional<double> duration;  // seconds
   QSize size{1280, 720};
-  QString png, svg;  // empty: no picture
+  QString png, svg, pdf;  // empty: no picture
   bool dump = false;
   bool events = false;
   bool help = false;
@@ -29,7 +29,7 @@ struct Options {
 
   /// Whether everything is done without a window.
   bool IsHeadless() const { return dump || events || WantsPicture(); }
-  bool WantsPicture() const { return !png.isEmpty() || !svg.isEmpty(); }
+  bool WantsPicture() const { return !png.isEmpty() || !svg.isEmpty() || !pdf.isEmpty(); }
 };
 
 /// `ArgumentsA` without the program's name. Throws OptionsError.

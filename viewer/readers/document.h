@@ -60,7 +60,8 @@ struct Entry {
 /// A labelled instant or span of a file. `time` and `duration` are seconds, as in Entry.
 struct Marker {
   String name;
-  String key;  // differs from all others; given when the file is loaded
+  String key;    // differs from all others; given when the file is loaded, like the next
+  String owner;  // the key of the object on which it stands; empty where there is none
   double time = 0;
   double duration = 0;
   String color;  // as the file names it: "RED", "GREEN", ...

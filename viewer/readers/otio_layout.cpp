@@ -196,15 +196,16 @@ class Layout {
     for (const OtioMarker& marker : NodeA.markers) {
       const double time = (StartA + marker.range.start - NodeA.rangeStart).Seconds();
       if (!VisibleA.Contains(time)) continue;
-      mDocument.markers.push_back({marker.name,
-                                   {},
-                                   time,
-                                   marker.range.duration.Seconds(),
-                                   marker.color,
-                                   marker.comment,
-                                   NodeA.number,
-                                   marker.place,
-                                   EntryA});
+      Marker shown;
+      shown.name = marker.name;
+      shown.time = time;
+      shown.duration = marker.range.duration.Seconds();
+      shown.color = marker.color;
+      shown.comment = marker.comment;
+      shown.item = NodeA.number;
+      shown.place = marker.place;
+      shown.entry = EntryA;
+      mDocument.markers.push_back(std::move(shown));
     }
   }
 

@@ -11,6 +11,11 @@ class BarHighlight {
 
   /// None marks nothing.
   void Mark(const IMURTimelineObject* ObjectA);
+  /// The bars were given their own colours meanwhile: marks the object again.
+  void Renew(const IMURTimelineObject* ObjectA) {
+    mItem = nullptr;
+    Mark(ObjectA);
+  }
 
  private:
   void Restore();

@@ -40,6 +40,7 @@ QLabel* MakeLabel(const QString& TextA, double SizeA) {
 
 EmptyState::EmptyState() {
   auto* open = new QPushButton(MakeIcon(Symbol::Open), QStringLiteral("Open a File\u2026"));
+  open->setObjectName(QStringLiteral("openFile"));
   connect(open, &QPushButton::clicked, this, &EmptyState::OpenWanted);
 
   auto* column = new QVBoxLayout(this);

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
+#include <QTransform>
 
 namespace mur::viewer {
 namespace {
@@ -86,10 +87,108 @@ QPainterPath TimelinePath() {
   return path;
 }
 
+QPainterPath SavePath() {
+  QPainterPath path;
+  AddPolyline(path, {{2, 2}, {11.5, 2}, {14, 4.5}, {14, 14}, {2, 14}, {2, 2}});
+  AddPolyline(path, {{5, 2}, {5, 6}, {10.5, 6}, {10.5, 2}});
+  AddPolyline(path, {{4.5, 14}, {4.5, 9.5}, {11.5, 9.5}, {11.5, 14}});
+  return path;
+}
+
+// An arrow that bends back to the left; mirrored, one that goes on to the right.
+QPainterPath UndoPath(bool MirroredA) {
+  QPainterPath path;
+  AddPolyline(path, {{5.5, 3}, {2.5, 6}, {5.5, 9}});
+  path.moveTo(2.5, 6);
+  path.lineTo(10, 6);
+  path.arcTo(QRectF(6.5, 6, 7, 7), 90, -180);
+  path.lineTo(6.5, 13);
+  return MirroredA ? QTransform(-1, 0, 0, 1, kGrid, 0).map(path) : path;
+}
+
+QPainterPath FindPath() {
+  QPainterPath path;
+  path.addEllipse(QPointF(6.5, 6.5), 4.5, 4.5);
+  AddLine(path, {9.8, 9.8}, {14, 14});
+  return path;
+}
+
+QPainterPath ChevronPath(bool DownA) {
+  QPainterPath path;
+  if (DownA)
+    AddPolyline(path, {{4, 6}, {8, 10}, {12, 6}});
+  else
+    AddPolyline(path, {{4, 10}, {8, 6}, {12, 10}});
+  return path;
+}
+
+QPainterPath PausePath() {
+  QPainterPath path;
+  AddLine(path, {5.5, 3.5}, {5.5, 12.5});
+  AddLine(path, {10.5, 3.5}, {10.5, 12.5});
+  return path;
+}
+
+QPainterPath CopyPath() {
+  QPainterPath path;
+  path.addRoundedRect(QRectF(5.5, 5.5, 8.5, 8.5), 1, 1);
+  AddPolyline(path, {{10.5, 3.5}, {10.5, 2}, {2, 2}, {2, 10.5}, {3.5, 10.5}});
+  return path;
+}
+
+QPainterPath ClearPath() {
+  QPainterPath path;
+  AddLine(path, {2.5, 4}, {13.5, 4});
+  AddPolyline(path, {{6, 4}, {6, 2}, {10, 2}, {10, 4}});
+  AddPolyline(path, {{4, 4}, {4.7, 14}, {11.3, 14}, {12, 4}});
+  return path;
+}
+
+QPainterPath SlidersPath() {
+  QPainterPath path;
+  for (const auto& [y, knob] : {std::pair{4.0, 10.5}, {8.0, 5.0}, {12.0, 9.0}}) {
+    AddLine(path, {1.5, y}, {knob - 1.5, y});
+    AddLine(path, {knob + 1.5, y}, {14.5, y});
+    path.addEllipse(QPointF(knob, y), 1.5, 1.5);
+  }
+  return path;
+}
+
+QPainterPath EventsPath() {
+  QPainterPath path;
+  for (const qreal y : {4.0, 8.0, 12.0}) {
+    path.addEllipse(QPointF(2.5, y), 0.4, 0.4);
+    AddLine(path, {5.5, y}, {14.5, y});
+  }
+  return path;
+}
+
 QPainterPath PathOf(Symbol SymbolA) {
   switch (SymbolA) {
     case Symbol::Open:
       return FolderPath();
+    case Symbol::Save:
+      return SavePath();
+    case Symbol::Undo:
+      return UndoPath(false);
+    case Symbol::Redo:
+      return UndoPath(true);
+    case Symbol::Find:
+      return FindPath();
+    case Symbol::Previous:
+      return ChevronPath(false);
+    case Symbol::Next:
+      return ChevronPath(true);
+    case Symbol::Pause:
+      return PausePath();
+    case Symbol::Copy:
+      return CopyPath();
+    case Symbol::Clear:
+      return ClearPath();
+    case Symbol::Sliders:
+      return SlidersPath();
+    case Symbol::Events:
+      return EventsPath();
     case Symbol::Picture:
       return PicturePath();
     case Symbol::Fit:

@@ -5,7 +5,27 @@
 namespace mur::viewer {
 
 /// What an icon shows.
-enum class Symbol { Open, Picture, Fit, ZoomIn, ZoomOut, Panel, Cancel, Timeline };
+enum class Symbol {
+  Open,
+  Save,
+  Picture,
+  Undo,
+  Redo,
+  Find,
+  Fit,
+  ZoomIn,
+  ZoomOut,
+  Panel,
+  Cancel,
+  Timeline,
+  Previous,
+  Next,
+  Pause,
+  Copy,
+  Clear,
+  Sliders,
+  Events
+};
 
 /// An icon drawn in lines of the palette's text colour, sharp at every size and scale factor.
 QIcon MakeIcon(Symbol SymbolA);

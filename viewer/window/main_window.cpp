@@ -1,8 +1,6 @@
 #include "viewer/window/main_window.h"
 
-#include <QCloseEvent>
 #include <QDropEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
@@ -10,6 +8,7 @@
 #include <QMimeData>
 #include <QPointer>
 #include <QStackedWidget>
+#include <QVBoxLayout>
 #include <utility>
 
 #include <murtimeline/qt/conversions.h>
@@ -17,21 +16,21 @@
 #include <murtimeline/qt/timeline_widget.h>
 
 #include "viewer/readers/read_error.h"
-#include "viewer/window/bar_picker.h"
+#include "viewer/window/appearance_panel.h"
+#include "viewer/window/appearance_settings.h"
+#include "viewer/window/clicked_bar.h"
 #include "viewer/window/empty_state.h"
-#include "viewer/window/picture_export.h"
+#include "viewer/window/event_panel.h"
+#include "viewer/window/find_bar.h"
+#include "viewer/window/marker_dragging.h"
 #include "viewer/window/pointer_readout.h"
+#include "viewer/window/program_name.h"
 #include "viewer/window/selection_panel.h"
 #include "viewer/window/timeline_page.h"
 #include "viewer/window/zoom_actions.h"
 
 namespace mur::viewer {
 namespace {
-
-const QString& ProgramName() {
-  static const QString name = QStringLiteral("MURTimeline Viewer");
-  return name;
-}
 
 // The first file that is dragged; empty when none is.
 QString DraggedFile(const QMimeData& DataA) {
@@ -50,12 +49,6 @@ QString NotesText(const std::vector<std::string>& NotesA) {
   return NotesA.size() == 1 ? first : QStringLiteral("%1 (and %2 more)").arg(first).arg(NotesA.size() - 1);
 }
 
-QFileDialog* MakeDialog(QWidget* OwnerA, const QString& TitleA, const QString& FiltersA) {
-  auto* dialog = new QFileDialog(OwnerA, TitleA, {}, FiltersA);
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  return dialog;
-}
-
 }  // namespace
 
 MainWindow::MainWindow(QSettings& SettingsA)
@@ -63,10 +56,15 @@ MainWindow::MainWindow(QSettings& SettingsA)
       mRecent(SettingsA),
       mPage(new TimelinePage),
       mEmpty(new EmptyState),
-      mStack(new QStackedWidget(this)),
+      mFind(new FindBar),
+      mStack(new QStackedWidget),
       mHighlight(mPage->Timeline().control()),
+      mHistory(new EditHistory(*mPage)),
+      mMarkers(new MarkerDragging(*mPage, *mHistory)),
       mZoom(new ZoomActions(mPage->Timeline())),
       mPanel(new SelectionPanel(this)),
+      mAppearance(new AppearancePanel(ReadAppearance(SettingsA), this)),
+      mEvents(new EventPanel(mPage->Timeline().control(), this)),
       mPointer(new PointerReadout(mPage->Timeline())),
       mSelected(new QLabel),
       mCount(new QLabel) {
@@ -74,17 +72,24 @@ MainWindow::MainWindow(QSettings& SettingsA)
   setAcceptDrops(true);
   mStack->addWidget(mEmpty);
   mStack->addWidget(mPage);
-  setCentralWidget(mStack);
+  auto* centre = new QWidget;
+  auto* column = new QVBoxLayout(centre);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(mStack, 1);
+  column->addWidget(mFind);
+  setCentralWidget(centre);
   mStack->setFocus();
-  addDockWidget(Qt::RightDockWidgetArea, mPanel);
-  mZoom->setParent(this);
+  auto* clicks = new ClickedBar(mPage->Timeline());
+  for (QObject* part : std::initializer_list<QObject*>{mHistory, mMarkers, mZoom, clicks})
+    part->setParent(this);
   mZoom->SetEnabled(false);
-  auto* picker = new BarPicker(mPage->Timeline());
-  picker->setParent(this);
-  connect(picker, &BarPicker::Picked, this,
-          [this](const auto& object) { qt::GuardEvent([&] { Select(object.Get()); }); });
+  connect(clicks, &ClickedBar::Picked, this,
+          [this](const auto& object) { qt::GuardEvent([&] { Select(object); }); });
   connect(mEmpty, &EmptyState::OpenWanted, this, &MainWindow::AskForFile);
+  MakePanels();
   MakeFileMenu();
+  MakeEditMenu();
   MakeViewMenu();
   MakeHelpMenu();
   MakeToolBar();
@@ -92,9 +97,18 @@ MainWindow::MainWindow(QSettings& SettingsA)
   RestorePlace();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+  // The panels and the history must not hear of the end of the time line while they are going.
+  mEvents->SetTimeline({});
+  mHistory->disconnect(this);
+  disconnect(&mHistory->Steps(), nullptr, this, nullptr);
+}
 
 void MainWindow::OpenFile(const QString& PathA, const VisibleRange& RangeA) {
+  AskAboutChanges([this, PathA, RangeA] { StartOpening(PathA, RangeA); });
+}
+
+void MainWindow::StartOpening(const QString& PathA, const VisibleRange& RangeA) {
   mWanted = Wanted{PathA, RangeA};
   mSession.Cancel();
   if (mSession.IsRunning()) return;  // the call that is loading goes on with this file
@@ -102,37 +116,76 @@ void MainWindow::OpenFile(const QString& PathA, const VisibleRange& RangeA) {
   while (self && mWanted) Load(*std::exchange(mWanted, std::nullopt));
 }
 
-// Events are handled meanwhile, and one of them may end the window.
+// Events are handled meanwhile, and one of them may end the window or move a bar of the file that is shown.
 void MainWindow::Load(const Wanted& WantedA) {
   const QPointer<MainWindow> self(this);
   const QString name = QFileInfo(WantedA.path).fileName();
   try {
     auto document = mSession.Load(WantedA.path);
-    if (self && document) Show(std::move(*document), WantedA.range);
+    if (!self) return;
+    if (!document) return mDiscarded.reset();  // what may have been lost for it is still there
+    const auto loaded = std::make_shared<OpenDocument>(std::move(*document));
+    AskAboutChanges([this, loaded, range = WantedA.range] { Show(std::move(*loaded), range); });
   } catch (const ReadError& error) {
-    if (self) Complain(QStringLiteral("%1 cannot be read.").arg(name), QString::fromUtf8(error.what()));
+    if (self) ComplainOfFile(QStringLiteral("%1 cannot be read.").arg(name), error);
   } catch (const std::exception& error) {
-    if (self) Complain(QStringLiteral("%1 cannot be shown.").arg(name), QString::fromUtf8(error.what()));
+    if (self) ComplainOfFile(QStringLiteral("%1 cannot be shown.").arg(name), error);
   }
 }
 
+void MainWindow::ComplainOfFile(const QString& HeadlineA, const std::exception& ErrorA) {
+  mDiscarded.reset();
+  Complain(HeadlineA, QString::fromUtf8(ErrorA.what()));
+}
+
 void MainWindow::Show(OpenDocument DocumentA, const VisibleRange& RangeA) {
-  Select(nullptr);
+  Select({});
+  mDiscarded.reset();
+  mEvents->SetTimeline({});
+  mFind->SetTimeline({});
   mRecent.Add(DocumentA.path);
-  setWindowTitle(QStringLiteral("%1 \u2014 %2").arg(QFileInfo(DocumentA.path).fileName(), ProgramName()));
-  setWindowFilePath(DocumentA.path);
+  mOnDisk = DocumentA.file.edit ? DocumentA.file.edit->text : QByteArray();
   mCount->setText(CountText(DocumentA.timeline->Count()));
   mPointer->SetFile(DocumentA.file);
   if (!DocumentA.file.notes.empty()) mSelected->setText(NotesText(DocumentA.file.notes));
   mStack->setCurrentWidget(mPage);
   mZoom->SetEnabled(true);
-  mExport->setEnabled(true);
-  mPage->Show(std::move(DocumentA), RangeA);
+  for (QAction* action : mNeedDocument) action->setEnabled(true);
+  try {
+    mPage->Show(std::move(DocumentA), RangeA);
+  } catch (...) {
+    FollowDocument();
+    throw;
+  }
+  FollowDocument();
 }
 
-void MainWindow::Select(const IMURTimelineObject* ObjectA) {
-  mHighlight.Mark(ObjectA);
-  mPanel->Show(ObjectA);
+// Moving is allowed at once where it can be saved. Elsewhere a bar that slips with the pointer would only lie
+// about the file.
+void MainWindow::FollowDocument() {
+  const OpenDocument& document = *mPage->Document();
+  mHistory->Begin();
+  const bool isEdit = document.file.edit.has_value();
+  mSaveAs->setEnabled(isEdit);
+  mAllowMoving->setChecked(isEdit);
+  AllowMoving(isEdit);
+  mEvents->SetTimeline(document.timeline.Get());
+  mFind->SetTimeline(document.timeline.Get());
+  ShowTitle();
+}
+
+void MainWindow::ShowTitle() {
+  const OpenDocument* document = mPage->Document();
+  if (!document) return;
+  const QString name = QFileInfo(document->path).fileName() + QLatin1String(IsModified() ? "*" : "");
+  setWindowTitle(QStringLiteral("%1 \u2014 %2").arg(name, ProgramName()));
+  mSave->setEnabled(IsModified());
+}
+
+void MainWindow::Select(const Ref<IMURTimelineObject>& ObjectA) {
+  mSelectedObject = ObjectA;
+  mHighlight.Mark(ObjectA.Get());
+  mPanel->Show(ObjectA.Get());
   mSelected->setText(ObjectA ? qt::ToQString(ObjectA->Tag()).simplified() : QString());
 }
 
@@ -142,50 +195,6 @@ void MainWindow::Complain(const QString& HeadlineA, const QString& LineA) {
   box->setAttribute(Qt::WA_DeleteOnClose);
   box->setTextFormat(Qt::PlainText);
   box->open();
-}
-
-void MainWindow::AskForFile() {
-  auto* dialog = MakeDialog(this, QStringLiteral("Open"),
-                            QStringLiteral("Time lines (*.otio *.json *.srt *.vtt);;All files (*)"));
-  dialog->setFileMode(QFileDialog::ExistingFile);
-  if (const OpenDocument* document = mPage->Document())
-    dialog->setDirectory(QFileInfo(document->path).absolutePath());
-  connect(dialog, &QFileDialog::fileSelected, this,
-          [this](const QString& path) { qt::GuardEvent([&] { OpenFile(path); }); });
-  dialog->open();
-}
-
-void MainWindow::AskForPicture() {
-  auto* dialog = MakeDialog(this, QStringLiteral("Export Picture"),
-                            QStringLiteral("Pictures (*.png);;Scalable pictures (*.svg)"));
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
-  dialog->setDefaultSuffix(QStringLiteral("png"));
-  if (const OpenDocument* document = mPage->Document())
-    dialog->selectFile(QFileInfo(document->path).completeBaseName() + QStringLiteral(".png"));
-  connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString& filter) {
-    dialog->setDefaultSuffix(filter.contains(QLatin1String("svg")) ? QStringLiteral("svg")
-                                                                   : QStringLiteral("png"));
-  });
-  connect(dialog, &QFileDialog::fileSelected, this,
-          [this](const QString& path) { qt::GuardEvent([&] { ExportTo(path); }); });
-  dialog->open();
-}
-
-void MainWindow::ExportTo(const QString& PathA) {
-  if (!mPage->Document()) return;
-  try {
-    const qt::TimelineWidget& timeline = mPage->Timeline();
-    ExportPicture(PathA, *mPage->Document(), *timeline.control(), timeline.size());
-  } catch (const std::exception& error) {
-    Complain(QStringLiteral("The picture cannot be exported."), QString::fromUtf8(error.what()));
-  }
-}
-
-void MainWindow::closeEvent(QCloseEvent* EventA) {
-  mWanted.reset();
-  mSession.Cancel();
-  SavePlace();
-  QMainWindow::closeEvent(EventA);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* EventA) {

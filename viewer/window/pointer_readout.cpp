@@ -5,7 +5,7 @@
 #include <murtimeline/qt/event_guard.h>
 #include <murtimeline/qt/timeline_widget.h>
 
-#include "viewer/window/time_texts.h"
+#include "viewer/time_texts.h"
 
 namespace mur::viewer {
 

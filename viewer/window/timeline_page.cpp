@@ -3,11 +3,11 @@
 #include <QEvent>
 #include <QResizeEvent>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include <murtimeline/qt/event_guard.h>
 #include <murtimeline/qt/timeline_widget.h>
 
-#include "viewer/window/scheme.h"
 #include "viewer/window/time_scroll_bar.h"
 
 namespace mur::viewer {
@@ -33,8 +33,9 @@ TimelinePage::TimelinePage() : mWidget(new qt::TimelineWidget), mScrollBar(new T
   column->addWidget(mWidget, 1);
   column->addWidget(mScrollBar);
   mWidget->setNavigationEnabled(true);
-  PrepareControl(*mWidget->control());
-  FollowPalette();
+  mWidget->control()->SetFollowAllStarts(true);
+  mLook.scheme = IsDark(palette()) ? kDarkScheme : kLightScheme;
+  PrepareControl(*mWidget->control(), mLook);
 }
 
 TimelinePage::~TimelinePage() {
@@ -48,12 +49,43 @@ void TimelinePage::Show(OpenDocument DocumentA, const VisibleRange& RangeA) {
   mDocument.emplace(std::move(DocumentA));
   control->SetTimeline(mDocument->timeline.Get());
   control->ShowMembers();
-  PresentFile(*control, mDocument->file, RangeA);
+  PresentFile(*control, mDocument->file, RangeA, mLook);
   MakeToolTips(*mDocument->timeline);
 }
 
 void TimelinePage::FollowPalette() {
-  ApplyScheme(*mWidget->control(), IsDark(palette()) ? kDarkScheme : kLightScheme);
+  mLook.scheme = IsDark(palette()) ? kDarkScheme : kLightScheme;
+  ApplyPresentLook();
+}
+
+void TimelinePage::SetAppearance(const Appearance& ChosenA) {
+  mLook.chosen = ChosenA;
+  ApplyPresentLook();
+}
+
+void TimelinePage::ApplyPresentLook() {
+  const Ref<MURTimelineRender> control = mWidget->control();
+  mDocument ? ApplyLook(*control, mDocument->file, mLook) : PrepareControl(*control, mLook);
+  Q_EMIT LookChanged();
+}
+
+void TimelinePage::MoveMarker(std::size_t MarkerA, double SecondsA) {
+  Marker& marker = mDocument->file.markers[MarkerA];
+  const Date time = Date::Unchecked(mDocument->file.day.Days() + SecondsA / kSecondsPerDay);
+  if (!time.InRange()) return;
+  marker.time = SecondsA;
+  if (const auto shown = mWidget->control()->Collaborators().scroller->Marker(Variant(marker.key)))
+    shown->SetWorldTime(time);
+}
+
+void TimelinePage::Reveal(const IMURTimelineObject& ObjectA) {
+  const Ref<MURTimelineRender> control = mWidget->control();
+  const double from = control->WorldTimeT0().Seconds(), seen = control->Duration();
+  const double start = ObjectA.WorldTimeT0().Seconds(), length = ObjectA.Duration();
+  const bool isSeen = start >= from && start + std::min(length, 0.0) <= from + seen;
+  if (isSeen && std::min(start + length, start + seen) <= from + seen) return;
+  const double lead = length < seen ? (seen - length) / 2 : seen / 10;
+  mWidget->pan(start - lead - from);
 }
 
 void TimelinePage::changeEvent(QEvent* EventA) {
@@ -64,7 +96,7 @@ void TimelinePage::changeEvent(QEvent* EventA) {
 void TimelinePage::resizeEvent(QResizeEvent* EventA) {
   QWidget::resizeEvent(EventA);
   if (mDocument && EventA->size().height() != EventA->oldSize().height())
-    qt::GuardEvent([this] { FitRows(*mWidget->control()); });
+    qt::GuardEvent([this] { FitRows(*mWidget->control(), mLook); });
 }
 
 }  // namespace mur::viewer

@@ -6,8 +6,8 @@
 #include <QTest>
 
 #include "tests/viewer/window/window_test.h"
+#include "viewer/scheme.h"
 #include "viewer/window/main_window.h"
-#include "viewer/window/scheme.h"
 
 namespace mur::viewer::test {
 namespace {
@@ -31,7 +31,7 @@ class Window : public WindowTest {
 
 TEST_F(Window, InvitesToOpenAFileAtFirst) {
   EXPECT_EQ(window->windowTitle(), QStringLiteral("MURTimeline Viewer"));
-  EXPECT_TRUE(window->findChild<QPushButton*>()->isVisible());
+  EXPECT_TRUE(window->findChild<QPushButton*>(QStringLiteral("openFile"))->isVisible());
   EXPECT_FALSE(Timeline().isVisible());
 }
 

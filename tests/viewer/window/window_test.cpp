@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -59,6 +60,12 @@ void WindowTest::Trigger(const QString& CaptionA) const {
   ADD_FAILURE() << "no action " << CaptionA.toStdString();
 }
 
+void WindowTest::TriggerNamed(const char* NameA) const {
+  auto* action = window->findChild<QAction*>(QLatin1String(NameA));
+  ASSERT_TRUE(action) << NameA;
+  action->trigger();
+}
+
 QString WindowTest::LabelText(const char* NameA) const {
   const auto* label = window->findChild<QLabel*>(QLatin1String(NameA));
   return label ? label->text() : QStringLiteral("no such label");
@@ -70,6 +77,46 @@ QString WindowTest::TakeMessage() const {
   const QString message = box->text();
   delete box;
   return message;
+}
+
+QString WindowTest::Answer(QMessageBox::StandardButton ButtonA) const {
+  auto* box = window->findChild<QMessageBox*>();
+  if (!box) return {};
+  const QString text = box->text();
+  box->button(ButtonA)->click();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  return text;
+}
+
+QByteArray WindowTest::Read(const QString& PathA) const {
+  QFile file(PathA);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  return file.readAll();
+}
+
+QString WindowTest::WriteEdit(const QString& NameA) const {
+  const auto range = [](int start, int duration) {
+    return QByteArray(R"("source_range": {"start_time": {"value": )") + QByteArray::number(start * 25) +
+           R"(, "rate": 25}, "duration": {"value": )" + QByteArray::number(duration * 25) +
+           R"(, "rate": 25}})";
+  };
+  const auto item = [&](const char* schema, const char* name, int duration, const QByteArray& more = {}) {
+    return QByteArray(R"({"OTIO_SCHEMA": ")") + schema + R"(", "name": ")" + name + "\", " +
+           range(0, duration) + more + "}";
+  };
+  const QByteArray marker = R"(, "markers": [{"OTIO_SCHEMA": "Marker.2", "name": "M", "marked_range":)"
+                            R"( {"start_time": {"value": 25, "rate": 25}}}])";
+  const auto track = [](const char* name, const QByteArray& children) {
+    return QByteArray(R"({"OTIO_SCHEMA": "Track.1", "name": ")") + name + R"(", "children": [)" + children +
+           "]}";
+  };
+  const QByteArray nest = R"({"OTIO_SCHEMA": "Stack.1", "name": "Nest", "children": [)" +
+                          track("Lane", item("Gap.1", "", 1) + ", " + item("Clip.2", "Inner", 3)) + "]}";
+  const QByteArray first = track("V1", item("Gap.1", "", 2) + ",\n" + item("Clip.2", "A", 4, marker) + ",\n" +
+                                           item("Gap.1", "", 4) + ",\n" + item("Clip.2", "B", 4));
+  const QByteArray second = track("V2", item("Gap.1", "", 1) + ", " + nest);
+  return Write(NameA, R"({"OTIO_SCHEMA": "Timeline.1", "tracks": {"OTIO_SCHEMA": "Stack.1", "children": [)" +
+                          first + ",\n" + second + "]}}\n");
 }
 
 QWidget& WindowTest::ChildAt(QPoint PointA) const {
@@ -93,6 +140,25 @@ void WindowTest::TurnWheel(QPoint PointA, int UnitsA) const {
   QWheelEvent turn(child.mapFrom(&Timeline(), PointA), Timeline().mapToGlobal(PointA), QPoint(),
                    QPoint(0, UnitsA), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
   QApplication::sendEvent(&child, &turn);
+}
+
+void WindowTest::Drag(QPoint FromA, QPoint ToA, bool ReleasesA) const {
+  constexpr int kSteps = 4;
+  QWidget& child = ChildAt(FromA);
+  const auto at = [&](QPoint point) { return child.mapFrom(&Timeline(), point); };
+  QTest::mousePress(&child, Qt::LeftButton, Qt::NoModifier, at(FromA));
+  for (int step = 1; step <= kSteps; ++step) {
+    const QPoint point = FromA + (ToA - FromA) * step / kSteps;
+    QMouseEvent move(QEvent::MouseMove, at(point), Timeline().mapToGlobal(point), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&child, &move);
+  }
+  if (ReleasesA) QTest::mouseRelease(&child, Qt::LeftButton, Qt::NoModifier, at(ToA));
+  QCoreApplication::processEvents();
+}
+
+void WindowTest::Type(QWidget& WidgetA, int KeyA, Qt::KeyboardModifiers ModifiersA) const {
+  QTest::keyClick(&WidgetA, static_cast<Qt::Key>(KeyA), ModifiersA);
 }
 
 QPoint WindowTest::MiddleOf(const ICanvasItem& BarA) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QMessageBox>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -34,14 +35,25 @@ class WindowTest : public testing::Test {
 
   /// Runs the action with that caption (without its "&").
   void Trigger(const QString& CaptionA) const;
+  void TriggerNamed(const char* NameA) const;
   QString LabelText(const char* NameA) const;
   /// The one open message box, closed again; empty when there is none.
   QString TakeMessage() const;
+  /// Answers the one open question; its text.
+  QString Answer(QMessageBox::StandardButton ButtonA) const;
+  QByteArray Read(const QString& PathA) const;
+  /// An edit at 25 frames a second that starts at 0: clips "A" from 2 to 6 and "B" from 10 to 14 seconds on
+  /// track "V1", with a marker "M" on "A" at 3 seconds; nested "Nest" from 1 to 5 on "V2" with "Inner"
+  /// from 2.
+  QString WriteEdit(const QString& NameA = QStringLiteral("edit.otio")) const;
 
   /// A point of the time line, and the child window below it.
   void MovePointer(QPoint PointA) const;
   void Click(QPoint PointA) const;
   void TurnWheel(QPoint PointA, int UnitsA) const;
+  /// Presses the left button at a point, moves there in a few steps and, if wanted, releases it.
+  void Drag(QPoint FromA, QPoint ToA, bool ReleasesA = true) const;
+  void Type(QWidget& WidgetA, int KeyA, Qt::KeyboardModifiers ModifiersA = Qt::NoModifier) const;
   /// The middle of a bar, a point of the time line.
   QPoint MiddleOf(const ICanvasItem& BarA) const;
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <murtimeline/render/timeline_render.h>
-
 #include "viewer/palette.h"
 
 namespace mur::viewer {
@@ -17,8 +15,5 @@ inline constexpr Scheme kDarkScheme{FromRgb(0x22262C),
                                     {FromRgb(0x434C59), FromRgb(0xE3E8EF)},
                                     {FromRgb(0x3A5145), FromRgb(0xE0EFE6)},
                                     {FromRgb(0x46588A), FromRgb(0xE6EBFA)}};
-
-/// Gives a control these colours, bars that are shown already included.
-void ApplyScheme(MURTimelineRender& ControlA, const Scheme& SchemeA);
 
 }  // namespace mur::viewer

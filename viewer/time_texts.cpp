@@ -1,4 +1,4 @@
-#include "viewer/window/time_texts.h"
+#include "viewer/time_texts.h"
 
 #include <cmath>
 
@@ -15,6 +15,11 @@ QString FileTimeText(const LoadedFile& FileA, Date TimeA) {
     return QStringLiteral("%1 s").arg(QString::number(seconds, 'f', kMicroseconds));
   const Ref<MURTimeText> texts = Make<MURTimeText>();
   return qt::ToQString(texts->FormatSeconds(seconds, FileA.rate > 0 ? kTimecode : kMilliseconds, FileA.rate));
+}
+
+QString RangeText(const LoadedFile& FileA, Date FromA, double SecondsA) {
+  const Date to = Date::Unchecked(FromA.Days() + SecondsA / kSecondsPerDay);
+  return QStringLiteral("%1 \u2013 %2").arg(FileTimeText(FileA, FromA), FileTimeText(FileA, to));
 }
 
 QString WorldTimeText(Date TimeA) {

@@ -10,6 +10,9 @@ namespace mur::viewer {
 /// seconds to the microsecond.
 QString FileTimeText(const LoadedFile& FileA, Date TimeA);
 
+/// "01:00:00:00 \u2013 01:03:30:00": what a control shows, as the file counts it.
+QString RangeText(const LoadedFile& FileA, Date FromA, double SecondsA);
+
 /// Date and wall clock to the millisecond; the clock alone on day zero.
 QString WorldTimeText(Date TimeA);
 

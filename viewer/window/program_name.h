@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace mur::viewer {
+
+inline QString ProgramName() {
+  return QStringLiteral("MURTimeline Viewer");
+}
+
+}  // namespace mur::viewer
