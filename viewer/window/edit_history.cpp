@@ -62,7 +62,10 @@ void EditHistory::Begin() {
   mIsTouched.clear();
   mStates.Clear();
   mSteps.clear();
-  if (!mPage.Document()) return;
+}
+
+void EditHistory::Watch() {
+  if (!mPage.Document() || !mConnections.empty()) return;
   const Ref<CMURTimeline> timeline = mPage.Document()->timeline.Get();
   mStates.Take(*timeline);
   mConnections.push_back(timeline->TLObjectPropertyChanged.Connect(

@@ -28,8 +28,10 @@ class EditHistory final : public QObject {
   ~EditHistory() override;
 
   QUndoStack& Steps() { return mSteps; }
-  /// The page shows another document: nothing can be undone.
+  /// The page shows another document: nothing can be undone, and nothing is watched yet.
   void Begin();
+  /// From now on moves become steps.
+  void Watch();
   /// What was changed since the last step becomes one.
   void Commit();
   /// A marker was moved from there, on the page already.

@@ -172,6 +172,7 @@ void MainWindow::MakeUndoActions() {
 }
 
 void MainWindow::AllowMoving(bool AllowedA) {
+  if (AllowedA) mHistory->Watch();
   mPage->Timeline().setAllowObjectDragging(AllowedA);
   mMarkers->SetEnabled(AllowedA);
 }

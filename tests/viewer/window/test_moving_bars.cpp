@@ -1,5 +1,5 @@
-#include <QAbstractButton>
-#include <QTest>
+#include <QUndoStack>
+#include <cmath>
 
 #include "tests/viewer/window/window_test.h"
 #include "viewer/window/object_states.h"
@@ -109,6 +109,52 @@ TEST_F(MovingBars, TakesMarkersAlong) {
   EXPECT_EQ(markers[0].time, 3);
 }
 
+class MovingMarkers : public MovingBars {
+ protected:
+  QPoint Flag() const { return {static_cast<int>(Timeline().xOf(At(Markers()[0].time))) + 4, 8}; }
+  const std::vector<Marker>& Markers() const { return window->Page().Document()->file.markers; }
+};
+
+TEST_F(MovingMarkers, IsOneStepInWholeFrames) {
+  Drag(Flag(), Flag() + QPoint(21, 0));
+  EXPECT_NEAR(Markers()[0].time, 3 + 52 * kFrame, kFrame * 1.1) << "2.1 seconds are 52 frames and a half";
+  EXPECT_NEAR(Markers()[0].time * 25, std::round(Markers()[0].time * 25), 1e-6);
+  EXPECT_EQ(Steps().undoText(), QStringLiteral("Move of \u201cM\u201d"));
+  TriggerNamed("undo");
+  EXPECT_EQ(Markers()[0].time, 3);
+  TriggerNamed("redo");
+  EXPECT_GT(Markers()[0].time, 5);
+}
+
+TEST_F(MovingMarkers, IsSaved) {
+  const QByteArray original = Read(PathOf(QStringLiteral("edit.otio")));
+  Drag(Flag(), Flag() + QPoint(20, 0));
+  Trigger(QStringLiteral("Save"));
+  QByteArray expected = original;
+  expected.replace("\"marked_range\": {\"start_time\": {\"value\": 25,",
+                   "\"marked_range\": {\"start_time\": {\"value\": 75,");
+  EXPECT_EQ(Read(PathOf(QStringLiteral("edit.otio"))), expected);
+}
+
+TEST_F(MovingMarkers, NeedsADragAndNotOnlyAClick) {
+  Drag(Flag(), Flag() + QPoint(3, 0));
+  EXPECT_EQ(Markers()[0].time, 3);
+  EXPECT_EQ(Steps().count(), 0);
+}
+
+TEST_F(MovingMarkers, EndsWithTheFileThatItIsOf) {
+  Drag(Flag(), Flag() + QPoint(20, 0), false);
+  window->OpenFile(WriteTwoCues());
+  Drag({300, 8}, {320, 8});
+  EXPECT_EQ(Steps().count(), 0);
+}
+
+TEST_F(MovingMarkers, CanBeForbidden) {
+  Trigger(QStringLiteral("Allow Moving Bars"));
+  Drag(Flag(), Flag() + QPoint(20, 0));
+  EXPECT_EQ(Markers()[0].time, 3);
+}
+
 TEST_F(MovingBars, CanBeForbidden) {
   Trigger(QStringLiteral("Allow Moving Bars"));
   DragBar(u"A", 20);
@@ -145,11 +191,6 @@ TEST_F(MovingBars, SavesFramesAndGivesTheFileBackWhenUndone) {
   DragBar(u"A", 21);
   Trigger(QStringLiteral("Save"));
   EXPECT_EQ(TakeMessage(), QString());
-  QByteArray expected = original;
-  expected.replace(expected.indexOf("\"value\": 50"), 11, "\"value\": 103");
-  expected.replace(
-      expected.indexOf("\"value\": 100, \"rate\": 25}}},\n{\"OTIO_SCHEMA\": \"Clip.2\", \"name\": \"B\""), 0,
-      "");
   const QByteArray saved = Read(PathOf(QStringLiteral("edit.otio")));
   EXPECT_NE(saved, original);
   EXPECT_EQ(saved.size(), original.size()) << "two numbers changed";
