@@ -1,7 +1,11 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include <murtimeline/model/timeline_media.h>
 #include <murtimeline/render/companions/canvas.h>
+#include <murtimeline/render/port/recording_surface.h>
 
 #include "tests/support/control_log.h"
 #include "tests/support/render_fixture.h"
@@ -54,6 +58,12 @@ struct PointedControl : AttachedControl {
   /// The seconds after noon at which an object starts, to the millisecond.
   static double StartOf(const Ref<IMURTimelineObject>& ObjectA) {
     return std::round((ObjectA->WorldTimeT0().Days() - kNoon.Days()) * kSecondsPerDay * 1000) / 1000;
+  }
+  /// The texts that the canvas draws.
+  std::vector<std::string> ShownTexts() const {
+    RecordingSurface surface;
+    Pointed().Paint(surface, {0, 0, 1000, 200});
+    return surface.LinesOf("text");
   }
   OleColor ColorOf(StringView KeyA) const { return Item(KeyA)->BackColor(); }
 
