@@ -17,9 +17,13 @@ QString FileTimeText(const LoadedFile& FileA, Date TimeA) {
   return qt::ToQString(texts->FormatSeconds(seconds, FileA.rate > 0 ? kTimecode : kMilliseconds, FileA.rate));
 }
 
+// Frames are rounded down; a date that stands for a whole one may lie a little before it.
 QString RangeText(const LoadedFile& FileA, Date FromA, double SecondsA) {
-  const Date to = Date::Unchecked(FromA.Days() + SecondsA / kSecondsPerDay);
-  return QStringLiteral("%1 \u2013 %2").arg(FileTimeText(FileA, FromA), FileTimeText(FileA, to));
+  const double allowance = FileA.rate > 0 ? 1e-5 : 0;
+  const auto text = [&](double seconds) {
+    return FileTimeText(FileA, Date::Unchecked(FromA.Days() + (seconds + allowance) / kSecondsPerDay));
+  };
+  return QStringLiteral("%1 \u2013 %2").arg(text(0), text(SecondsA));
 }
 
 QString WorldTimeText(Date TimeA) {

@@ -18,8 +18,10 @@ using namespace mur;
 using namespace mur::viewer;
 
 constexpr QSize kWindow(1360, 820);
-constexpr Date kMoment = Date::Unchecked(36526 + 3692.4 / kSecondsPerDay);  // 01:01:32:10
-constexpr const char16_t kBar[] = u"Rain Overlay";
+constexpr double kFirst = 36526 + 3598.8 / kSecondsPerDay;  // the film begins at one hour
+constexpr double kSeconds = 92;
+constexpr Date kMoment = Date::Unchecked(36526 + 3653 / kSecondsPerDay);
+constexpr const char16_t kBar[] = u"Sc01 Ines Wild 02";
 
 class Scene {
  public:
@@ -29,8 +31,8 @@ class Scene {
     mWindow.OpenFile(SampleA);
     mWindow.findChild<EventPanel*>()->show();
     QApplication::processEvents();
-    Control().SetWorldTimeT0(Date::Unchecked(kMoment.Days() - 44 / kSecondsPerDay));
-    Control().SetDuration(105);
+    Control().SetWorldTimeT0(Date::Unchecked(kFirst));
+    Control().SetDuration(kSeconds);
     Control().SetCursorTime(kMoment);
   }
 
