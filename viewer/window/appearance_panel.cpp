@@ -10,6 +10,7 @@
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QSpinBox>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <murtimeline/qt/conversions.h>
@@ -74,7 +75,7 @@ AppearancePanel::AppearancePanel(const Appearance& AppearanceA, QWidget* ParentA
   area->setWidgetResizable(true);
   area->setFrameShape(QFrame::NoFrame);
   area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  area->setMinimumWidth(body->minimumSizeHint().width());
+  area->setMinimumWidth(body->minimumSizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
   setWidget(area);
   ShowChosen();
   mIsShowing = false;
