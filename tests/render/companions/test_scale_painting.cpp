@@ -259,6 +259,82 @@ TEST_F(ScalePainting, DrawsThePoleOfTheMarkerUnderThePointerInTheHighlightsColor
   EXPECT_THAT(Painted().Lines(), Not(Contains(HasSubstr("#00ff00"))));
 }
 
+TEST_F(ScalePainting, ShowsTheWholeCaptionUnderThePointerAboveAllOthers) {
+  scroll->MarkerAdd(At(600), u"a", u"The first of two captions", true);
+  scroll->MarkerAdd(At(840), u"b", u"The second", true);
+  EXPECT_THAT(Texts(), AllOf(Contains("The…"), Contains("The second")));
+  scroll->PointerMoved({{110, 5}, 0, 0});
+  EXPECT_EQ(Texts().back(), "The first of two captions");
+  scroll->PointerMoved({{142, 5}, 0, 0});  // below the enlarged flag
+  EXPECT_EQ(Texts().back(), "The second");
+}
+
+TEST_F(ScalePainting, ShortensTheCaptionUnderThePointerToTheScaleOnly) {
+  scroll->MarkerAdd(At(3300), u"a", String(200, u'x'), true);
+  scroll->PointerMoved({{540, 5}, 0, 0});
+  const std::string caption = Texts().back();
+  EXPECT_THAT(caption, AllOf(StartsWith("xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"), HasSubstr("…")));
+  EXPECT_THAT(Painted().LinesOf("fill"), Contains(StartsWith("fill 0,1 600x14 #0a246a")));
+}
+
+TEST_F(ScalePainting, StandsMarkersOnTheirTimesByFeetAndCrossesNoLabel) {
+  scroll->SetShowCursor(false);
+  for (const int seconds : {600, 606, 612})
+    scroll->MarkerAdd(At(seconds), FromAscii(std::to_string(seconds)), u"", true);
+  EXPECT_THAT(Painted().LinesOf("polygon"), ElementsAre(StartsWith("polygon 97.5,36 103.5,36 100.5,40"),
+                                                        StartsWith("polygon 98.5,36 104.5,36 101.5,40"),
+                                                        StartsWith("polygon 99.5,36 105.5,36 102.5,40")));
+  EXPECT_THAT(Painted().LinesOf("fill"),
+              AllOf(Contains(StartsWith("fill 100,1 1x15")), Contains(StartsWith("fill 106,1 1x15")),
+                    Contains(StartsWith("fill 112,1 1x15"))));
+  scroll->SetTickEdge(0);
+  EXPECT_THAT(Painted().LinesOf("polygon"), Contains(StartsWith("polygon 97.5,4 103.5,4 100.5,0")));
+  EXPECT_THAT(Painted().LinesOf("fill"), Contains(StartsWith("fill 100,25 1x15")));
+}
+
+TEST_F(ScalePainting, DrawsNoFeetWhereMarkersShareAFlag) {
+  scroll->SetShowCursor(false);
+  for (int i = 0; i < 30; ++i) scroll->MarkerAdd(At(600), FromAscii(std::to_string(i)), u"", true);
+  EXPECT_THAT(Painted().LinesOf("polygon"), IsEmpty());
+  scroll->PointerMoved({{102, 8}, 0, 0});
+  EXPECT_EQ(Painted().LinesOf("polygon").size(), 1U);
+}
+
+TEST_F(ScalePainting, DrawsNoMoreForThousandsOfMarkersThanFitSideBySide) {
+  for (int i = 0; i < 3000; ++i)
+    scroll->MarkerAdd(At(i * 1.2), FromAscii(std::to_string(i)), u"caption", true);
+  EXPECT_LT(Painted().Lines().size(), 400U);
+}
+
+TEST_F(ScalePainting, KeepsPolesEquallyWideAtFractionalScaleFactors) {
+  scroll->MarkerAdd(At(600), u"a", u"", true);
+  scroll->MarkerAdd(At(1803), u"b", u"", true);
+  RecordingSurface surface(1.5F);
+  scroll->Paint(surface, kAll);
+  EXPECT_THAT(surface.LinesOf("fill"), AllOf(Contains(StartsWith("fill 100,1 0.6666667x15")),
+                                             Contains(StartsWith("fill 300.66666,1 0.6666667x15"))));
+}
+
+TEST_F(ScalePainting, FindsFlagsAsWideAsTheyWerePainted) {
+  struct Wide final : test::BlankSurface {
+    TextExtent MeasureText(StringView TextA, const TextStyle& StyleA) const override {
+      TextExtent extent = BlankSurface::MeasureText(TextA, StyleA);
+      extent.width *= 2;
+      return extent;
+    }
+  };
+  scroll->MarkerAdd(At(600), u"a", u"abcde", true);
+  EXPECT_TRUE(scroll->MarkerAt({140, 5}));
+  EXPECT_FALSE(scroll->MarkerAt({160, 5}));
+  Wide surface;
+  scroll->Paint(surface, kAll);
+  EXPECT_TRUE(scroll->MarkerAt({160, 5}));
+  scroll->SetTZero(At(0));  // laid out again, with the width as it was measured
+  EXPECT_TRUE(scroll->MarkerAt({160, 5}));
+  scroll->Marker(1)->SetCaption(u"abcdef");
+  EXPECT_FALSE(scroll->MarkerAt({160, 5}));
+}
+
 TEST_F(ScalePainting, LeavesOutRowsThatHaveNoRoom) {
   scroll->SetTimeScaleFormatStyle(2);
   host.SetHeight(24 * 15);
