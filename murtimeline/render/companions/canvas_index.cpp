@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <tuple>
 #include <utility>
 
@@ -49,6 +50,7 @@ CanvasIndex::Slot CanvasIndex::Add() {
 
 void CanvasIndex::TakeOff(Slot SlotA) {
   mStates[SlotA] &= static_cast<std::uint8_t>(~kOnCanvas);
+  mNotedAreGathered = false;
   if (mStates[SlotA] == 0) return;
   // Hosts that never paint must not collect what is gone.
   if (++mStale > 256 + mEntries.size() / 2) Rebuild();
@@ -57,6 +59,7 @@ void CanvasIndex::TakeOff(Slot SlotA) {
 void CanvasIndex::SetPlace(Slot SlotA, const ItemPlace& PlaceA) {
   mPlaces[SlotA] = PlaceA;
   std::uint8_t& state = mStates[SlotA];
+  mNotedAreGathered = false;
   const bool hasOrder = (state & kInOrder) != 0 || PlaceA.IsDrawable();
   if ((state & kOnCanvas) == 0 || (state & kNoted) != 0 || !hasOrder) return;
   state |= kNoted;
@@ -70,10 +73,37 @@ std::size_t CanvasIndex::RowsStartingBy(float YA) const {
 }
 
 std::size_t CanvasIndex::EntriesStartingBy(std::size_t BeginA, std::size_t EndA, float XA) const {
-  const Entry* entries = mEntries.data();
-  const auto end = std::partition_point(entries + BeginA, entries + EndA,
-                                        [XA](const Entry& entry) { return entry.left <= XA; });
-  return static_cast<std::size_t>(end - entries);
+  // The blocks that begin within the row lead to the few entries in question.
+  const Block* blocks = mBlocks.data();
+  const auto nextBlock =
+      std::partition_point(blocks + (BeginA + kBlock - 1) / kBlock, blocks + (EndA + kBlock - 1) / kBlock,
+                           [XA](const Block& block) { return block.left <= XA; });
+  const std::size_t past = static_cast<std::size_t>(nextBlock - blocks);
+  std::size_t at = past * kBlock > BeginA + kBlock ? (past - 1) * kBlock : BeginA;
+  while (at < EndA && mEntries[at].left <= XA) ++at;
+  return at;
+}
+
+void CanvasIndex::BuildBlocks() {
+  mBlocks.resize((mEntries.size() + kBlock - 1) / kBlock);
+  std::size_t row = 0;
+  float reach = std::numeric_limits<float>::lowest();
+  for (std::size_t at = 0; at < mEntries.size(); ++at) {
+    if (at == mRows[row].end) {
+      ++row;
+      reach = std::numeric_limits<float>::lowest();
+    }
+    if (at % kBlock == 0) mBlocks[at / kBlock] = {mEntries[at].left, reach};
+    reach = std::max(reach, mEntries[at].right);
+  }
+}
+
+void CanvasIndex::GatherNoted() {
+  mNotedAreGathered = true;
+  mNotedPlaces.clear();
+  for (const Slot slot : mNoted)
+    if ((mStates[slot] & kOnCanvas) != 0 && mPlaces[slot].IsDrawable())
+      mNotedPlaces.push_back({mPlaces[slot], slot});
 }
 
 void CanvasIndex::Refresh() {
@@ -86,10 +116,12 @@ void CanvasIndex::Refresh() {
 void CanvasIndex::Rebuild() {
   KeepEntries(mNoted.size() > mEntries.size() / 4);
   if (const Newcomers newcomers = TakeNoted(); !newcomers.empty()) Merge(newcomers);
+  BuildBlocks();
   mRights.Build(mEntries.size(), [this](std::size_t entry) { return mEntries[entry].right; });
   mBottoms.Build(mRows.size(), [this](std::size_t row) { return mRows[row].Bottom(); });
   mFree.insert(mFree.end(), mReleased.begin(), mReleased.end());
   mReleased.clear();
+  mNotedAreGathered = false;
   mStale = 0;
 }
 

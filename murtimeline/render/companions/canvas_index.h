@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -43,6 +44,16 @@ class MUR_API CanvasIndex {
       if (mStates[slot] & kOnCanvas && mPlaces[slot].Overlaps(AreaA)) VisitA(slot);
   }
 
+  /// Calls `VisitA(slot)` for each item that has a point inside or on its left or upper edge, in any order.
+  template <class Visit>
+  void ForEachAt(PointF PointA, Visit&& VisitA) {
+    Refresh();
+    mBottoms.ForEachAbove(
+        0, RowsStartingBy(PointA.y), PointA.y, [this](std::size_t row) { return mRows[row].Bottom(); },
+        [&](std::size_t row) { VisitRowAt(row, PointA.x, VisitA); });
+    VisitNotedAt(PointA, VisitA);
+  }
+
   /// Whether everything holds that the order promises; for tests.
   bool IsConsistent() const;
 
@@ -52,6 +63,8 @@ class MUR_API CanvasIndex {
   static constexpr std::uint8_t kInOrder = 2;  // has an entry, which is out of date while it is noted, too
   static constexpr std::uint8_t kNoted = 4;
 
+  static constexpr std::size_t kBlock = 16;
+
   struct Entry {
     float left, right;
     Slot slot;
@@ -60,6 +73,15 @@ class MUR_API CanvasIndex {
     float top, height;
     std::size_t end;  // of its entries; they start at the end of the row before
     float Bottom() const { return top + height; }
+  };
+  // Of sixteen entries in a row.
+  struct Block {
+    float left;   // of the first one
+    float reach;  // the rightmost edge of the entries before it in its row
+  };
+  struct NotedPlace {
+    ItemPlace place;
+    Slot slot;
   };
   struct Newcomer {
     float top, height;
@@ -78,10 +100,39 @@ class MUR_API CanvasIndex {
         });
   }
 
+  // What a point lies on has begun just before it, as a rule: looks there first, and elsewhere only where
+  // something reaches so far.
+  template <class Visit>
+  void VisitRowAt(std::size_t RowA, float XA, Visit& VisitA) const {
+    const std::size_t begin = RowBegin(RowA);
+    const std::size_t end = EntriesStartingBy(begin, mRows[RowA].end, XA);
+    if (end == begin) return;
+    const std::size_t block = (end - 1) / kBlock;
+    const std::size_t near = std::max(begin, block * kBlock);
+    const auto visit = [&](std::size_t entry) {
+      if (const Slot slot = mEntries[entry].slot; mStates[slot] == (kOnCanvas | kInOrder)) VisitA(slot);
+    };
+    for (std::size_t at = near; at < end; ++at)
+      if (mEntries[at].right > XA) visit(at);
+    if (near == begin || mBlocks[block].reach <= XA) return;
+    mRights.ForEachAbove(
+        begin, near, XA, [this](std::size_t entry) { return mEntries[entry].right; }, visit);
+  }
+
+  // Noted places are gathered side by side when they are asked for, until one of them changes.
+  template <class Visit>
+  void VisitNotedAt(PointF PointA, Visit& VisitA) {
+    if (!mNotedAreGathered) GatherNoted();
+    for (const auto& [place, slot] : mNotedPlaces)
+      if (place.Overlaps({PointA.x, PointA.y, 0, 0})) VisitA(slot);
+  }
+
   std::size_t RowBegin(std::size_t RowA) const { return RowA == 0 ? 0 : mRows[RowA - 1].end; }
   std::size_t RowsStartingBy(float YA) const;
   std::size_t EntriesStartingBy(std::size_t BeginA, std::size_t EndA, float XA) const;
 
+  void BuildBlocks();
+  void GatherNoted();
   void Refresh();
   void Rebuild();
   void KeepEntries(bool ReloadA);
@@ -95,10 +146,13 @@ class MUR_API CanvasIndex {
   std::vector<Slot> mFree;
   std::vector<Slot> mReleased;  // not free yet: the order or the notes may still name them
   std::vector<Slot> mNoted;
+  std::vector<NotedPlace> mNotedPlaces;  // of those that can be drawn
+  bool mNotedAreGathered = false;
   std::size_t mStale = 0;  // slots off the canvas that the order or the notes still name
 
   std::vector<Entry> mEntries;
   std::vector<Row> mRows;
+  std::vector<Block> mBlocks;
   RangeMaxima mRights;   // of the entries
   RangeMaxima mBottoms;  // of the rows
 };

@@ -88,8 +88,8 @@ void CanvasScene::RequestRepaint(std::uint32_t SlotA) {
 CanvasItem* CanvasScene::TopmostAt(PointF PointA) {
   CanvasItem* topmost = nullptr;
   std::int64_t order = 0;
-  ForEachShown({PointA.x, PointA.y, 0, 0}, [&](std::uint32_t slot) {
-    if (topmost && mLooks[slot].Order() < order) return;
+  mIndex.ForEachAt(PointA, [&](std::uint32_t slot) {
+    if (!mLooks[slot].visible || (topmost && mLooks[slot].Order() < order)) return;
     topmost = mItems[slot];
     order = mLooks[slot].Order();
   });

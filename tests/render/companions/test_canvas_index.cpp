@@ -65,6 +65,11 @@ class CanvasIndexAgainstNaive {
     mIndex.ForEachOverlapping(area, [&](CanvasIndex::Slot slot) { found.push_back(slot); });
     std::sort(found.begin(), found.end());
     ASSERT_EQ(found, mNaive.Overlapping(area));
+    const PointF point{area.left, area.top};
+    std::vector<CanvasIndex::Slot> hit;
+    mIndex.ForEachAt(point, [&](CanvasIndex::Slot slot) { hit.push_back(slot); });
+    std::sort(hit.begin(), hit.end());
+    ASSERT_EQ(hit, mNaive.Overlapping({point.x, point.y, 0, 0}));
     ASSERT_TRUE(mIndex.IsConsistent());
   }
 
@@ -123,6 +128,25 @@ TEST(CanvasIndex, FindsALongItemThatStartsFarToTheLeft) {
   for (int number = 0; number < 5000; ++number)
     index.SetPlace(index.Add(), {static_cast<float>(number) * 10, 0, 5, 10});
   EXPECT_EQ(Found(index, {30007, 5, 0, 0}), std::vector{longOne});
+}
+
+TEST(CanvasIndex, HitsTheSameWhateverReachesThere) {
+  CanvasIndex index;
+  NaiveIndex naive;
+  std::mt19937 random(5);
+  const auto below = [&](unsigned bound) { return static_cast<float>(random() % bound); };
+  for (int number = 0; number < 3000; ++number) {
+    const ItemPlace place{below(1000), below(3) * 12, random() % 100 == 0 ? below(800) : below(3), 10};
+    naive.items.push_back({place, true});
+    index.SetPlace(index.Add(), place);
+  }
+  for (int number = 0; number < 3000; ++number) {
+    const PointF point{below(1100) - 20, below(50) - 5};
+    std::vector<CanvasIndex::Slot> hit;
+    index.ForEachAt(point, [&](CanvasIndex::Slot slot) { hit.push_back(slot); });
+    std::sort(hit.begin(), hit.end());
+    ASSERT_EQ(hit, naive.Overlapping({point.x, point.y, 0, 0}));
+  }
 }
 
 TEST(CanvasIndex, ComesThroughARowFromLeftToRight) {
