@@ -21,8 +21,9 @@ class MUR_API MarkerBoard final : public Object {
     mOrder.Put(MarkerA);
     Changed();
   }
-  /// Tells nobody: markers may go in numbers.
+  // What takes markers out tells nobody: they may go in numbers.
   void Take(TimeScaleMarker& MarkerA) { mOrder.Take(MarkerA); }
+  void TakeAll() { mOrder.Clear(); }
   const MarkerOrder& Order() const { return mOrder; }
 
   /// Something that the scale shows became another.

@@ -33,6 +33,11 @@ void MarkerOrder::Take(TimeScaleMarker& MarkerA) {
   std::lower_bound(mEntries.begin(), mEntries.end(), sought, IsBefore)->marker = nullptr;
 }
 
+void MarkerOrder::Clear() {
+  for (const Entry& entry : Settled()) entry.marker->Place().isIn = false;
+  mEntries.clear();
+}
+
 std::size_t MarkerOrder::Count() const {
   return Settled().size();
 }

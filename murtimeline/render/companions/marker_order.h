@@ -31,6 +31,8 @@ class MUR_API MarkerOrder {
   /// Puts a marker where its time belongs, also one that is in already; one that cannot be shown goes.
   void Put(TimeScaleMarker& MarkerA);
   void Take(TimeScaleMarker& MarkerA);
+  /// Takes all of them out.
+  void Clear();
 
   std::size_t Count() const;
   TimeScaleMarker& At(std::size_t IndexA) const { return *Settled()[IndexA].marker; }

@@ -67,6 +67,7 @@ void MURTimelineScroll::MarkersClear() {
 }
 
 void MURTimelineScroll::MarkersLeave(const Markers& MarkersA) {
+  mBoard->TakeAll();
   for (std::size_t slot = MarkersA.NextSlot(0); slot != Markers::kNone; slot = MarkersA.NextSlot(slot + 1))
     MarkersA.At(slot)->Leave();
 }

@@ -92,7 +92,7 @@ class MUR_API MURTimelineScroll final : public ITimelineScroll, public PointerTa
   };
   using Markers = KeyedSequence<Ref<TimeScaleMarker>, KeyOf>;
 
-  static void MarkersLeave(const Markers& MarkersA);
+  void MarkersLeave(const Markers& MarkersA);
   void InvalidateCursor() const;
 
   template <class T>

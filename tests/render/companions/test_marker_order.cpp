@@ -91,6 +91,20 @@ TEST(MarkerOrder, IsThatOfASortedListAfterAnyChanges) {
   }
 }
 
+TEST(MarkerOrder, CanBeClearedAndFilledAgain) {
+  MarkerOrder order;
+  const auto a = Marker(2, "a"), b = Marker(1, "b");
+  order.Put(*a);
+  EXPECT_EQ(Keys(order), "a");
+  order.Put(*b);
+  order.Clear();
+  EXPECT_EQ(Keys(order), "");
+  order.Take(*a);
+  order.Put(*a);
+  order.Put(*b);
+  EXPECT_EQ(Keys(order), "ba");
+}
+
 TEST(MarkerOrder, FindsTheFirstAtOrAfterATime) {
   MarkerOrder order;
   std::vector<Ref<TimeScaleMarker>> all;
