@@ -1,5 +1,7 @@
 #include "viewer/event_log.h"
 
+#include <array>
+#include <charconv>
 #include <utility>
 
 #include <murtimeline/automation/regional.h>
@@ -28,7 +30,8 @@ std::string Text(Date TimeA) {
   return ExactWorldTime(TimeA);
 }
 std::string Text(float ValueA) {
-  return NumberText(static_cast<double>(ValueA));
+  std::array<char, 32> text{};
+  return {text.data(), std::to_chars(text.data(), text.data() + text.size(), ValueA).ptr};
 }
 std::string Text(std::int16_t ValueA) {
   return std::to_string(ValueA);

@@ -4,7 +4,8 @@
 
 namespace mur::viewer {
 
-/// Shows one bar in the highlight colour of its kind, and gives it its own colours back.
+/// Shows one bar in the highlight colour of its kind, and gives it its own colours back. (The control's own
+/// selection would put all others back to the colours of their kind, which say less.)
 class BarHighlight {
  public:
   explicit BarHighlight(Ref<MURTimelineRender> ControlA) : mControl(std::move(ControlA)) {}

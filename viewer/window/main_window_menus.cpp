@@ -38,6 +38,8 @@ QString GuideText() {
          GuideRow("Click a bar", "show its object at the side") +
          GuideRow("Drag a bar or a marker", "move it (Edit, Allow Moving Bars)") +
          GuideRow("Click or drag on the scale", "set the cursor") +
+         GuideRow("Ctrl + F, F3, Shift + F3", "find by tag, next, previous") +
+         GuideRow("Ctrl + Z, Ctrl + Shift + Z", "undo, redo") +
          GuideRow("Ctrl + 0", "show the whole time line") +
          GuideRow("Ctrl + plus, Ctrl + minus", "zoom about the middle") +
          GuideRow("Alt + left, Alt + right", "move earlier or later") + GuideRow("Esc", "cancel loading") +

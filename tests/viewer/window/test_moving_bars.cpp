@@ -1,6 +1,7 @@
 #include <QCoreApplication>
 #include <QUndoStack>
 #include <cmath>
+#include <utility>
 
 #include "tests/viewer/window/window_test.h"
 #include "viewer/window/object_states.h"
@@ -228,6 +229,17 @@ TEST_F(MovingBars, AreStillAskedAboutWhenTheOtherFileCannotBeRead) {
   EXPECT_TRUE(window->isVisible());
   Answer(QMessageBox::Discard);
   EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(MovingBars, AreAskedAboutWhenTheyHappenWhileAnotherFileLoads) {
+  bool moved = false;
+  QObject::connect(&window->Loading(), &LoadSession::Progressed, window.get(), [&] {
+    if (!std::exchange(moved, true)) Object(u"A")->SetWorldTimeT0(At(7));
+  });
+  window->OpenFile(WriteManyCues());
+  EXPECT_EQ(Answer(QMessageBox::Cancel), QStringLiteral("Save the changes to edit.otio?"));
+  EXPECT_TRUE(Bar(u"A"));
+  EXPECT_TRUE(window->IsModified());
 }
 
 TEST_F(MovingBars, SavesWhenAskedWhileClosing) {
