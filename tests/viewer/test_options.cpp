@@ -21,14 +21,16 @@ QStringList Words(const char* TextA) {
 }
 
 TEST(Options, ReadTheWholeCommandLine) {
-  const Options options = ParseOptions(Words(
-      "a.otio --from 01:00:10:12 --duration 2.5 --size 800x600 --png o.png --svg o.svg --dump --events"));
+  const Options options =
+      ParseOptions(Words("a.otio --from 01:00:10:12 --duration 2.5 --size 800x600 --png o.png --svg o.svg "
+                         "--pdf o.pdf --dump --events"));
   EXPECT_EQ(options.file, QStringLiteral("a.otio"));
   EXPECT_EQ(options.from, TimeArgument(ClockTime{3610, 12}));
   EXPECT_EQ(options.duration, 2.5);
   EXPECT_EQ(options.size, QSize(800, 600));
   EXPECT_EQ(options.png, QStringLiteral("o.png"));
   EXPECT_EQ(options.svg, QStringLiteral("o.svg"));
+  EXPECT_EQ(options.pdf, QStringLiteral("o.pdf"));
   EXPECT_TRUE(options.dump && options.events && options.IsHeadless() && options.WantsPicture());
 }
 
