@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <utility>
 
 #include <murtimeline/automation/error.h>
@@ -35,11 +36,12 @@ void MURGraphicCanvas::Paint(Surface& SurfaceA, const RectF& DirtyA) {
 
 void MURGraphicCanvas::Resized() {
   mScene->Requests().RequestAll();
+  if (ScrollTop() > 0) SetScrollTop(ScrollTop());
   Repaint.Raise();
 }
 
 Ref<ICanvasItem> MURGraphicCanvas::ItemAt(PointF PointA) const {
-  return Ref<ICanvasItem>(mScene->TopmostAt(UnitsAt(PointA)));
+  return Ref<ICanvasItem>(mScene->TopmostAt({PointA.x * UnitsPerPixel(), PointA.y * UnitsPerPixel()}));
 }
 
 String MURGraphicCanvas::ToolTipAt(PointF PointA) const {
@@ -51,12 +53,34 @@ String MURGraphicCanvas::ToolTipAt(PointF PointA) const {
 
 RectF MURGraphicCanvas::PixelBounds(const ICanvasItem& ItemA) const {
   const float pixels = PixelsPerUnit();
-  return {ItemA.Left() * pixels, ItemA.Top() * pixels, ItemA.Width() * pixels, ItemA.Height() * pixels};
+  const float top = ItemA.Top() - (ItemA.Kind() == kCursorItem ? 0 : mScene->ScrolledUnits());
+  return {ItemA.Left() * pixels, top * pixels, ItemA.Width() * pixels, ItemA.Height() * pixels};
 }
 
 PointF MURGraphicCanvas::PointOn(const ICanvasItem& ItemA, PointF PointA) const {
   const PointF at = UnitsAt(PointA);
-  return {at.x - ItemA.Left(), at.y - ItemA.Top()};
+  const float scrolled = ItemA.Kind() == kCursorItem ? mScene->ScrolledUnits() : 0;
+  return {at.x - ItemA.Left(), at.y - ItemA.Top() - scrolled};
+}
+
+void MURGraphicCanvas::SetScrollTop(float PixelsA) {
+  const float farthest = std::max(ContentHeight() - Area().height, 0.0F);
+  const float pixels = PixelsA > 0 ? std::min(PixelsA, farthest) : 0;
+  mScene->SetScrolledUnits(pixels * UnitsPerPixel());
+}
+
+Ref<ICanvasItem> MURGraphicCanvas::FocusedItem() const {
+  const auto slot = mScene->Focused();
+  return slot ? Ref<ICanvasItem>(&mScene->ItemOf(*slot)) : Ref<ICanvasItem>();
+}
+
+void MURGraphicCanvas::SetFocusedItem(const Ref<ICanvasItem>& ItemA) {
+  const CanvasItem* item = ItemA ? Own(*ItemA) : nullptr;
+  mScene->SetFocused(item ? std::optional(item->SceneSlot()) : std::nullopt);
+}
+
+const CanvasItem* MURGraphicCanvas::Own(const ICanvasItem& ItemA) const {
+  return Holds(ItemA) ? static_cast<const CanvasItem*>(&ItemA) : nullptr;
 }
 
 RectF MURGraphicCanvas::Area() const {

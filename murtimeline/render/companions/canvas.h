@@ -30,15 +30,31 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas, public PointerTarg
   /// What to show while the pointer rests there: the item's tool tip, else that of the canvas; empty while
   /// tool tips are off.
   String ToolTipAt(PointF PointA) const;
-  /// Where an item lies, in pixels.
+  /// Where an item is shown, in pixels.
   RectF PixelBounds(const ICanvasItem& ItemA) const;
-
-  /// The same for a point, the other way round: pixels to canvas units.
-  PointF UnitsAt(PointF PointA) const { return {PointA.x * UnitsPerPixel(), PointA.y * UnitsPerPixel()}; }
+  /// The same for a point, the other way round: pixels to the canvas units in which bars lie.
+  PointF UnitsAt(PointF PointA) const {
+    return {PointA.x * UnitsPerPixel(), PointA.y * UnitsPerPixel() + mScene->ScrolledUnits()};
+  }
   /// A point (pixels) as an item sees it: canvas units from its left top corner.
   PointF PointOn(const ICanvasItem& ItemA, PointF PointA) const;
   /// The drawing area, in pixels.
   RectF Area() const;
+
+  // Scrolling, in pixels: bars are shown further up than they lie, the cursor stays.
+  float ScrollTop() const { return mScene->ScrolledUnits() * PixelsPerUnit(); }
+  /// As far as there is something to see: 0 to what the content is higher than the drawing area.
+  void SetScrollTop(float PixelsA);
+  /// The lower edge of the lowest bar.
+  float ContentHeight() const { return mScene->Bottom() * PixelsPerUnit(); }
+
+  /// The item with a ring around it, as for the one that the keyboard acts on; none when it goes.
+  Ref<ICanvasItem> FocusedItem() const;
+  void SetFocusedItem(const Ref<ICanvasItem>& ItemA);
+  /// Geometry and looks of the items by slot, for what looks around among them.
+  CanvasScene& Scene() const { return *mScene; }
+  /// The item itself when it is on this canvas; null otherwise.
+  const CanvasItem* Own(const ICanvasItem& ItemA) const;
   /// Whether an item is on this canvas still.
   bool Holds(const ICanvasItem& ItemA) const { return GraphicByKey(ItemA.Key()).Get() == &ItemA; }
   ChildHost& Host() const { return mHost; }

@@ -119,6 +119,8 @@ void CanvasIndex::Rebuild() {
   BuildBlocks();
   mRights.Build(mEntries.size(), [this](std::size_t entry) { return mEntries[entry].right; });
   mBottoms.Build(mRows.size(), [this](std::size_t row) { return mRows[row].Bottom(); });
+  mTallest = 0;
+  for (const Row& row : mRows) mTallest = std::max(mTallest, row.height);
   mFree.insert(mFree.end(), mReleased.begin(), mReleased.end());
   mReleased.clear();
   mNotedAreGathered = false;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <vector>
 
 #include <murtimeline/automation/export.h>
@@ -53,6 +55,21 @@ class MUR_API CanvasIndex {
         [&](std::size_t row) { VisitRowAt(row, PointA.x, VisitA); });
     VisitNotedAt(PointA, VisitA);
   }
+
+  /// The lower edge of the lowest item with an extent; 0 without one.
+  float Bottom();
+
+  // Walking from item to item. `AcceptA` says which items are met at all.
+  using Accept = std::function<bool(Slot)>;
+  /// A place in a row: items come by left edge, those of one left edge by slot.
+  struct RowSpot {
+    float top, left;
+    Slot slot;
+  };
+  /// The item of a row that comes next after a spot, or before it.
+  std::optional<Slot> NextInRow(const RowSpot& FromA, bool ForwardsA, const Accept& AcceptA);
+  /// The top of the next row, further down or up, that has an item.
+  std::optional<float> NextRow(float TopA, bool DownwardsA, const Accept& AcceptA);
 
   /// Whether everything holds that the order promises; for tests.
   bool IsConsistent() const;
@@ -140,6 +157,10 @@ class MUR_API CanvasIndex {
   Newcomers TakeNoted();
   void Merge(const Newcomers& NewcomersA);
   bool IsRowConsistent(std::size_t RowA) const;
+  bool IsCurrent(Slot SlotA) const { return mStates[SlotA] == (kOnCanvas | kInOrder); }
+  bool HasAny(std::size_t RowA, const Accept& AcceptA) const;
+  template <class Offer>
+  void OfferFromRow(std::size_t RowA, float LeftA, bool ForwardsA, Offer&& OfferA) const;
 
   std::vector<ItemPlace> mPlaces;
   std::vector<std::uint8_t> mStates;
@@ -153,6 +174,7 @@ class MUR_API CanvasIndex {
   std::vector<Entry> mEntries;
   std::vector<Row> mRows;
   std::vector<Block> mBlocks;
+  float mTallest = 0;    // of the rows
   RangeMaxima mRights;   // of the entries
   RangeMaxima mBottoms;  // of the rows
 };

@@ -33,6 +33,7 @@ void CanvasPainter::Paint() {
   std::sort(mDrawn.begin(), mDrawn.end(),
             [](const Drawn& left, const Drawn& right) { return left.order < right.order; });
   for (const Drawn& drawn : mDrawn) Draw(drawn);
+  DrawFocusRing();
 }
 
 void CanvasPainter::Collect() {
@@ -40,7 +41,7 @@ void CanvasPainter::Collect() {
   const RectF area{(mDirty.left - 1) / mUnit, (mDirty.top - 1) / mUnit, (mDirty.width + 2) / mUnit,
                    (mDirty.height + 2) / mUnit};
   mScene.ForEachShown(area, [&](std::uint32_t slot) {
-    const ItemPlace& place = mScene.PlaceOf(slot);
+    const ItemPlace place = mScene.ShownPlaceOf(slot);
     const ItemLook& look = mScene.LookOf(slot);
     if (look.isCursor || place.width * mUnit * mRatio >= 1) {
       mDrawn.push_back({look.Order(), PixelBox(place), slot, look.backColor});
@@ -93,7 +94,7 @@ void CanvasPainter::DrawBar(const RectF& BoxA, Rgba ColorA) {
 void CanvasPainter::DrawTexts(std::uint32_t SlotA, Rgba ColorA) {
   const CanvasItem& item = mScene.ItemOf(SlotA);
   if (!item.Texts().HasCaptions()) return;
-  const ItemPlace& place = mScene.PlaceOf(SlotA);
+  const ItemPlace place = mScene.ShownPlaceOf(SlotA);
   const float left = std::max(place.left * mUnit, 0.0F);
   const float right = std::min(place.Right() * mUnit, mDrawingWidth);
   const float top = place.top * mUnit;
@@ -112,6 +113,21 @@ void CanvasPainter::DrawCursor(const RectF& BoxA, Rgba ColorA) {
                                          {BoxA.left + BoxA.width / 2, BoxA.top + kCursorHandleHeight},
                                          {BoxA.left, shoulder}}};
   mSurface.FillPolygon(handle, ColorA);
+}
+
+// Around the bar rather than on it, so that it shows on any colour; a line between the two keeps them apart.
+void CanvasPainter::DrawFocusRing() {
+  constexpr int kHighlight = 13;  // a system colour
+  const auto focused = mScene.Focused();
+  if (!focused || !mScene.LookOf(*focused).IsShown() || !mScene.PlaceOf(*focused).IsDrawable()) return;
+  const auto grown = [](const RectF& box, float by) {
+    return RectF{box.left - by, box.top - by, box.width + 2 * by, box.height + 2 * by};
+  };
+  const RectF box = PixelBox(mScene.ShownPlaceOf(*focused));
+  const Rgba ring = mHost.SystemColor(kHighlight);
+  mSurface.FrameRoundedRectangle(grown(box, kFocusRingReach), kRadius + kFocusRingReach, ring,
+                                 kFocusRingReach);
+  mSurface.FrameRoundedRectangle(box, kRadius, ReadableOn(ring, ring), 1);
 }
 
 float CanvasPainter::Aligned(float PixelA) const {

@@ -34,6 +34,7 @@ class MUR_API CanvasPainter {
   void DrawBar(const RectF& BoxA, Rgba ColorA);
   void DrawTexts(std::uint32_t SlotA, Rgba ColorA);
   void DrawCursor(const RectF& BoxA, Rgba ColorA);
+  void DrawFocusRing();
 
   float Aligned(float PixelA) const;
   RectF PixelBox(const ItemPlace& PlaceA) const;

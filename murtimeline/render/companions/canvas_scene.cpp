@@ -14,8 +14,10 @@ RectF InPixels(const ItemPlace& PlaceA, float PixelsPerUnitA) {
 }
 
 // Edges are aligned to device pixels when they are drawn, at most one pixel away.
-RectF Widened(const RectF& RectA) {
-  return {RectA.left - 1, RectA.top - 1, RectA.width + 2, RectA.height + 2};
+constexpr float kAlignment = 1;
+
+RectF Widened(const RectF& RectA, float ByA) {
+  return {RectA.left - ByA, RectA.top - ByA, RectA.width + 2 * ByA, RectA.height + 2 * ByA};
 }
 
 }  // namespace
@@ -29,6 +31,8 @@ std::uint32_t CanvasScene::Add(CanvasItem& ItemA) {
   mLooks[slot] = {};
   mLooks[slot].z = ++mFront;
   if (ItemA.Kind() == kCursorItem) {
+    mIndex.TakeOff(slot);
+    mCursors.push_back(slot);
     mLooks[slot].isCursor = true;
     mLooks[slot].backColor = kCursorColor;
   }
@@ -41,8 +45,12 @@ void CanvasScene::TakeOff(std::uint32_t SlotA) {
   if (!mLooks[SlotA].onCanvas) return;
   RequestRepaint(SlotA);
   ++mColorRevision;
+  if (mFocused == SlotA) SetFocused(std::nullopt);
   mLooks[SlotA].onCanvas = false;
-  mIndex.TakeOff(SlotA);
+  if (mLooks[SlotA].isCursor)
+    std::erase(mCursors, SlotA);
+  else
+    mIndex.TakeOff(SlotA);
 }
 
 void CanvasScene::Forget(std::uint32_t SlotA) {
@@ -82,17 +90,38 @@ void CanvasScene::SendToBack(std::uint32_t SlotA) {
 
 void CanvasScene::RequestRepaint(std::uint32_t SlotA) {
   if (!mRequests.WantsMore() || !mLooks[SlotA].IsShown() || !PlaceOf(SlotA).IsDrawable()) return;
-  mRequests.Request(Widened(InPixels(PlaceOf(SlotA), mPixelsPerUnit)));
+  const float reach = kAlignment + (mFocused == SlotA ? kFocusRingReach : 0);
+  mRequests.Request(Widened(InPixels(ShownPlaceOf(SlotA), mPixelsPerUnit), reach));
+}
+
+ItemPlace CanvasScene::ShownPlaceOf(std::uint32_t SlotA) const {
+  ItemPlace place = PlaceOf(SlotA);
+  if (!mLooks[SlotA].isCursor) place.top -= mScrolledUnits;
+  return place;
+}
+
+void CanvasScene::SetScrolledUnits(float UnitsA) {
+  if (std::exchange(mScrolledUnits, UnitsA) != UnitsA) mRequests.RequestAll();
+}
+
+void CanvasScene::SetFocused(std::optional<std::uint32_t> SlotA) {
+  if (SlotA == mFocused) return;
+  if (mFocused) RequestRepaint(*mFocused);
+  mFocused = SlotA;
+  if (mFocused) RequestRepaint(*mFocused);
 }
 
 CanvasItem* CanvasScene::TopmostAt(PointF PointA) {
   CanvasItem* topmost = nullptr;
   std::int64_t order = 0;
-  mIndex.ForEachAt(PointA, [&](std::uint32_t slot) {
+  const auto offer = [&](std::uint32_t slot) {
     if (!mLooks[slot].visible || (topmost && mLooks[slot].Order() < order)) return;
     topmost = mItems[slot];
     order = mLooks[slot].Order();
-  });
+  };
+  for (const std::uint32_t slot : mCursors)
+    if (PlaceOf(slot).Overlaps({PointA.x, PointA.y, 0, 0})) offer(slot);
+  if (!topmost) mIndex.ForEachAt({PointA.x, PointA.y + mScrolledUnits}, offer);
   return topmost;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include <murtimeline/automation/export.h>
@@ -11,6 +12,9 @@
 namespace mur {
 
 class CanvasItem;
+
+/// How far the ring around the focused item reaches out of it, in pixels.
+inline constexpr float kFocusRingReach = 2;
 
 /// What painting needs to know about an item besides its place.
 struct MUR_API ItemLook {
@@ -47,6 +51,9 @@ class MUR_API CanvasScene final : public Object {
   const ItemLook& LookOf(std::uint32_t SlotA) const { return mLooks[SlotA]; }
   CanvasItem& ItemOf(std::uint32_t SlotA) const { return *mItems[SlotA]; }
 
+  /// Where an item is drawn: bars scroll, the cursor stays.
+  ItemPlace ShownPlaceOf(std::uint32_t SlotA) const;
+
   void SetPlace(std::uint32_t SlotA, const ItemPlace& PlaceA);
   void SetVisible(std::uint32_t SlotA, bool VisibleA);
   void SetBackColor(std::uint32_t SlotA, OleColor ColorA);
@@ -62,16 +69,32 @@ class MUR_API CanvasScene final : public Object {
   void SetPixelsPerUnit(float PixelsA) noexcept { mPixelsPerUnit = PixelsA; }
   float PixelsPerUnit() const noexcept { return mPixelsPerUnit; }
 
-  /// The topmost item shown at a point (canvas units); null when there is none.
+  /// By how many canvas units the bars are shown further up than they lie.
+  float ScrolledUnits() const noexcept { return mScrolledUnits; }
+  void SetScrolledUnits(float UnitsA);
+  /// The lower edge of the lowest bar (canvas units); 0 without one.
+  float Bottom() { return mIndex.Bottom(); }
+
+  /// The item with a ring around it; none at first, and when that item goes.
+  std::optional<std::uint32_t> Focused() const noexcept { return mFocused; }
+  void SetFocused(std::optional<std::uint32_t> SlotA);
+
+  /// The order of the bars in space.
+  CanvasIndex& Index() noexcept { return mIndex; }
+
+  /// The topmost item shown at a point (canvas units, as shown); null when there is none.
   CanvasItem* TopmostAt(PointF PointA);
 
-  /// Calls `VisitA(slot)` for every shown item that overlaps the area (canvas units); see CanvasIndex for the
-  /// order.
+  /// Calls `VisitA(slot)` for every shown item that overlaps the area (canvas units, as shown); see
+  /// CanvasIndex for the order. The cursor comes last.
   template <class Visit>
   void ForEachShown(const RectF& AreaA, Visit&& VisitA) {
-    mIndex.ForEachOverlapping(AreaA, [&](std::uint32_t slot) {
+    const RectF scrolled{AreaA.left, AreaA.top + mScrolledUnits, AreaA.width, AreaA.height};
+    mIndex.ForEachOverlapping(scrolled, [&](std::uint32_t slot) {
       if (mLooks[slot].visible) VisitA(slot);
     });
+    for (const std::uint32_t slot : mCursors)
+      if (mLooks[slot].visible && PlaceOf(slot).Overlaps(AreaA)) VisitA(slot);
   }
 
   bool IsConsistent() const { return mIndex.IsConsistent(); }
@@ -80,11 +103,14 @@ class MUR_API CanvasScene final : public Object {
   CanvasIndex mIndex;
   std::vector<ItemLook> mLooks;
   std::vector<CanvasItem*> mItems;
+  std::vector<std::uint32_t> mCursors;  // apart from the bars: they do not scroll
+  std::optional<std::uint32_t> mFocused;
   RepaintRequests mRequests;
   std::uint64_t mColorRevision = 0;
   std::int64_t mFront = 0;
   std::int64_t mBack = 0;
   float mPixelsPerUnit = 1;
+  float mScrolledUnits = 0;
 };
 
 }  // namespace mur
