@@ -43,7 +43,8 @@ bool ChildWidget::event(QEvent* EventA) {
 bool ChildWidget::HandleEvent(QEvent& EventA) {
   if (EventA.type() == QEvent::ToolTip) return ShowToolTip(static_cast<const QHelpEvent&>(EventA));
   const QPointer<ChildWidget> self(this);
-  const bool isDone = mPointer && mPointer->Handle(EventA);
+  if (mEvents && EventFunction(mEvents)(EventA)) return true;
+  const bool isDone = self && mPointer && mPointer->Handle(EventA);
   return isDone || !self || QWidget::event(&EventA);
 }
 

@@ -24,6 +24,8 @@ class ChildWidget final : public QWidget {
  public:
   using PaintFunction = std::function<void(Surface& SurfaceA, const RectF& DirtyA)>;
   using ToolTipFunction = std::function<HoverText(PointF PointA)>;
+  /// True when the event was handled; the widget may be gone then.
+  using EventFunction = std::function<bool(QEvent& EventA)>;
 
   /// `MeasuresA` outlives the widget.
   ChildWidget(TextMeasures& MeasuresA, QWidget* ParentA);
@@ -31,6 +33,12 @@ class ChildWidget final : public QWidget {
   void SetPaint(PaintFunction PaintA) { mPaint = std::move(PaintA); }
   /// `TargetA` outlives the widget; it keeps itself while it is told something.
   void SetPointer(PointerTarget& TargetA) { mPointer = std::make_unique<PointerRouter>(*this, TargetA); }
+  /// Ends what the pointer is doing, without a click.
+  void LosePointer() {
+    if (mPointer) mPointer->LosePointer();
+  }
+  /// What hears of all events before the widget itself.
+  void SetEvents(EventFunction EventsA) { mEvents = std::move(EventsA); }
   void SetToolTip(ToolTipFunction ToolTipA) { mToolTip = std::move(ToolTipA); }
 
  protected:
@@ -44,6 +52,7 @@ class ChildWidget final : public QWidget {
   TextMeasures& mMeasures;
   PaintFunction mPaint;
   ToolTipFunction mToolTip;
+  EventFunction mEvents;
   std::unique_ptr<PointerRouter> mPointer;
 };
 

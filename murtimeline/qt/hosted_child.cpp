@@ -63,6 +63,7 @@ QRect HostedChild::PixelPlace() const {
 
 // Rounded outwards to the grid of logical pixels, and one further where that is not the grid of the device.
 void HostedChild::Invalidate(const RectF& RectA) {
+  if (mInvalidated) mInvalidated();
   if (!mWidget || RectA.IsEmpty()) return;
   const double ratio = mWidget->devicePixelRatioF();
   const double margin = ratio == std::floor(ratio) ? 0 : 1;
@@ -73,6 +74,7 @@ void HostedChild::Invalidate(const RectF& RectA) {
 }
 
 void HostedChild::InvalidateAll() {
+  if (mInvalidated) mInvalidated();
   if (mWidget) mWidget->update();
 }
 

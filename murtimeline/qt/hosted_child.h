@@ -43,6 +43,8 @@ class MUR_API HostedChild final : public ChildHost, public HostFace {
   void SetMovesWidget(bool MovesA) { mMovesWidget = MovesA; }
   /// What is to be told that the extent became another one, at once.
   void SetResized(std::function<void()> ResizedA) { mResized = std::move(ResizedA); }
+  /// What is to be told that something must be painted again, shown or not.
+  void SetInvalidated(std::function<void()> InvalidatedA) { mInvalidated = std::move(InvalidatedA); }
 
  private:
   void ShowShape();
@@ -52,6 +54,7 @@ class MUR_API HostedChild final : public ChildHost, public HostFace {
   float mLeft = 0, mTop = 0, mWidth = 0, mHeight = 0;
   String mToolTipText;
   std::function<void()> mResized;
+  std::function<void()> mInvalidated;
   PointerShape mShape = PointerShape::Standard;
   std::optional<PointerShape> mShapeInstead;
   PointerShape mShown = PointerShape::Standard;

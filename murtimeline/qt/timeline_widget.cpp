@@ -1,6 +1,8 @@
-#include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
+#include <algorithm>
+#include <iterator>
 
 #include <murtimeline/automation/guard.h>
 #include <murtimeline/qt/conversions.h>
@@ -59,17 +61,32 @@ TimelineWidget::Parts::Parts(QWidget& OwnerA)
       canvas(MakeOn<MURGraphicCanvas>(canvasHost)),
       host(*new WidgetHost(OwnerA, scaleHost, canvasHost)),
       control(MakeControl(host, CompanionsOf(canvas, scroller))),
-      navigation(control, canvas, canvasHost, *scaleWidget, *canvasWidget) {
+      rows(canvas, *canvasWidget),
+      navigation(control, canvas, canvasHost, rows, *scaleWidget, *canvasWidget),
+      keyboard(control, canvas, scroller, navigation, rows),
+      drops(*canvas),
+      touch(*canvas, navigation) {
   constexpr float kScaleDesignHeight = 600;  // twips
   scaleHost.SetHeight(kScaleDesignHeight);
   canvasHost.SetResized([canvas = canvas.Get()] { canvas->Resized(); });
+  canvasHost.SetInvalidated([this] { rows.FollowSoon(); });
   const auto paint = [](auto& companion) {
     return [&companion](Surface& surface, const RectF& dirty) { companion.Paint(surface, dirty); };
   };
   scaleWidget->SetPaint(paint(*scroller));
   canvasWidget->SetPaint(paint(*canvas));
   canvasWidget->SetPointer(*canvas);
-  if (auto* pointer = dynamic_cast<PointerTarget*>(scroller.Get())) scaleWidget->SetPointer(*pointer);
+  canvasWidget->setAcceptDrops(true);
+  canvasWidget->setAttribute(Qt::WA_AcceptTouchEvents);
+  canvasWidget->SetEvents([this](QEvent& event) { return drops.Handle(event) || touch.Handle(event); });
+  scaleWidget->SetPointer(*scroller);
+  connections.push_back(canvas->ItemMouseDown.Connect(
+      [this](const Ref<ICanvasItem>& item, auto&...) { keyboard.TakeUp(item); }));
+  QObject::connect(&keyboard, &Keyboard::dragsCancelled, &OwnerA, [this] {
+    const QPointer<ChildWidget> scale(scaleWidget.get());
+    canvasWidget->LosePointer();
+    if (scale) scale->LosePointer();
+  });
   scaleWidget->SetToolTip([this](PointF point) {
     return HoverText{scroller->ToolTipAt(point), scroller->ToolTipAreaAt(point)};
   });
@@ -77,6 +94,11 @@ TimelineWidget::Parts::Parts(QWidget& OwnerA)
     const Ref<ICanvasItem> item = canvas->ItemAt(point);
     return HoverText{canvas->ToolTipAt(point), item ? canvas->PixelBounds(*item) : RectF()};
   });
+}
+
+// The hosts may outlive all else.
+TimelineWidget::Parts::~Parts() {
+  canvasHost.SetInvalidated({});
 }
 
 void TimelineWidget::Parts::LayOut(QSizeF SizeA) {
@@ -87,7 +109,8 @@ void TimelineWidget::Parts::LayOut(QSizeF SizeA) {
 
 TimelineWidget::TimelineWidget(QWidget* parent)
     : TimelineEvents(parent), mParts(std::make_unique<Parts>(*this)) {
-  mParts->connections = forward(*mParts->control);
+  setFocusPolicy(Qt::StrongFocus);
+  std::ranges::move(forward(*mParts->control), std::back_inserter(mParts->connections));
   mParts->connections.push_back(mParts->control->CursorTimeChange.Connect(
       [this](Date time) { Q_EMIT cursorTimeChange(ToQDateTime(time)); }));
   mParts->connections.push_back(mParts->scroller->VisibleRangeChanged.Connect([this] {
@@ -159,8 +182,24 @@ QSize TimelineWidget::minimumSizeHint() const {
 
 bool TimelineWidget::event(QEvent* event) {
   bool handled = true;
-  GuardEvent([&] { handled = TimelineEvents::event(event); });
+  GuardEvent([&] { handled = handleKeys(*event) || TimelineEvents::event(event); });
   return handled;
+}
+
+// True when nothing is left to do; the widget may be gone then.
+bool TimelineWidget::handleKeys(QEvent& event) {
+  const QPointer<TimelineWidget> self(this);
+  if (event.type() == QEvent::KeyPress) {
+    layOut();
+    const bool pressed = self && mParts->keyboard.Press(static_cast<const QKeyEvent&>(event));
+    event.setAccepted(pressed);
+    return pressed || !self;
+  }
+  const bool comes = event.type() == QEvent::FocusIn;
+  if (!comes && event.type() != QEvent::FocusOut) return false;
+  const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+  mParts->keyboard.ShowRing(comes && reason != Qt::MouseFocusReason);
+  return false;
 }
 
 void TimelineWidget::resizeEvent(QResizeEvent* event) {

@@ -6,6 +6,7 @@
 
 #include <murtimeline/automation/export.h>
 #include <murtimeline/qt/timeline_events.h>
+#include <murtimeline/qt/wheel_action.h>
 
 class QPainter;
 
@@ -54,6 +55,7 @@ class MUR_API TimelineWidget : public TimelineEvents {
   Q_PROPERTY(bool showToolTips READ showToolTips WRITE setShowToolTips)
   Q_PROPERTY(QString toolTipText READ toolTipText WRITE setToolTipText)
   Q_PROPERTY(bool navigationEnabled READ navigationEnabled WRITE setNavigationEnabled)
+  Q_PROPERTY(mur::qt::WheelAction wheelAction READ wheelAction WRITE setWheelAction)
 
  public:
   explicit TimelineWidget(QWidget* parent = nullptr);
@@ -167,10 +169,14 @@ class MUR_API TimelineWidget : public TimelineEvents {
   Q_INVOKABLE void setTlObjectVisible(const QVariant& keyIndex, bool visible);
 
   // Navigation: writes worldTimeT0 and duration as a host would.
-  /// Off at first. While on, the wheel zooms where the pointer is, with Shift it pans, and a drag on the
-  /// background of the canvas pans.
+  /// Off at first. While on, the wheel with Ctrl (or a pinch) zooms where the pointer is and with Shift it
+  /// pans, a drag on the background of the canvas moves times and rows, and walking by keys brings bars into
+  /// view.
   bool navigationEnabled() const;
   void setNavigationEnabled(bool enabled);
+  /// What the wheel does without a key while navigation is on; ScrollRows at first.
+  WheelAction wheelAction() const;
+  void setWheelAction(WheelAction action);
   /// Zooms in by a factor above 1, out by one below; the time at `x` (pixels of the canvas) stays where it
   /// is. Factors are taken in steps of a twenty-fourth of a doubling (3 %), so that zooming in and out again
   /// at the same places ends at the same range to the last bit.
@@ -183,6 +189,11 @@ class MUR_API TimelineWidget : public TimelineEvents {
   double xOf(Date time) const;
   Q_INVOKABLE QDateTime dateTimeAt(double x) const;
   Q_INVOKABLE double xOfDateTime(const QDateTime& time) const;
+
+  /// Starts a drag of the platform's for a member: its tag as text, its key and times as kBarFormat, its bar
+  /// as the picture. To be called by a handler of a press or a move, whose gesture ends with it. Returns what
+  /// was done at the drop, when that is over; the widget may be gone then.
+  Qt::DropAction dragObject(const QVariant& keyIndex, Qt::DropActions actions = Qt::CopyAction);
 
   /// A picture as the widget would look at that size (logical pixels), shown or not. Laying out for another
   /// size than the widget's own repaints the control, twice.
@@ -209,6 +220,7 @@ class MUR_API TimelineWidget : public TimelineEvents {
  private:
   struct Parts;
 
+  bool handleKeys(QEvent& event);
   void layOut() const;
 
   std::unique_ptr<Parts> mParts;

@@ -11,6 +11,14 @@ void TimelineWidget::setNavigationEnabled(bool enabled) {
   mParts->navigation.SetEnabled(enabled);
 }
 
+WheelAction TimelineWidget::wheelAction() const {
+  return mParts->navigation.Wheel();
+}
+
+void TimelineWidget::setWheelAction(WheelAction action) {
+  mParts->navigation.SetWheel(action);
+}
+
 void TimelineWidget::zoomAt(double factor, double x) {
   layOut();
   mParts->navigation.ZoomAt(factor, x);

@@ -4,8 +4,10 @@
 #include <vector>
 
 #include <murtimeline/qt/child_widget.h>
-#include <murtimeline/qt/navigation.h>
+#include <murtimeline/qt/drop_router.h>
+#include <murtimeline/qt/keyboard.h>
 #include <murtimeline/qt/timeline_widget.h>
+#include <murtimeline/qt/touch_input.h>
 #include <murtimeline/qt/widget_host.h>
 #include <murtimeline/render/companions/scroll_control.h>
 
@@ -14,6 +16,7 @@ namespace mur::qt {
 /// What a TimelineWidget consists of. The hosts of the companions and of the control belong to those.
 struct TimelineWidget::Parts {
   explicit Parts(QWidget& OwnerA);
+  ~Parts();
 
   /// Lays the control out for a size in logical pixels. Listeners may end the widget meanwhile.
   void LayOut(QSizeF SizeA);
@@ -27,7 +30,11 @@ struct TimelineWidget::Parts {
   Ref<MURGraphicCanvas> canvas;
   WidgetHost& host;
   Ref<MURTimelineRender> control;
+  RowScroller rows;
   Navigation navigation;
+  Keyboard keyboard;
+  DropRouter drops;
+  TouchInput touch;
   QSize laidOut;
   std::vector<Connection> connections;
 };

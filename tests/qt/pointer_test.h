@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <murtimeline/qt/timeline_widget.h>
+#include <murtimeline/render/companions/canvas.h>
 
 #include "tests/qt/companion_windows.h"
 #include "tests/qt/sample_timeline.h"
@@ -29,6 +30,9 @@ class PointerTest : public testing::Test {
 
   QWidget& Canvas() const { return CanvasOf(widget); }
   QWidget& Scale() const { return ScaleOf(widget); }
+  MURGraphicCanvas& CanvasItself() const {
+    return dynamic_cast<MURGraphicCanvas&>(*widget.control()->Collaborators().canvas);
+  }
   void Press(QPoint AtA, Qt::MouseButton ButtonA = Qt::LeftButton, Qt::KeyboardModifiers KeysA = {}) const {
     QTest::mousePress(&Canvas(), ButtonA, KeysA, AtA);
   }

@@ -67,7 +67,9 @@ std::vector<PropertyRow> Rows() {
           plain("oleDropMode", QVariant::fromValue(qint16{0}), QVariant::fromValue(qint16{2})),
           plain("showToolTips", true, false),
           plain("toolTipText", "", "rest here"),
-          plain("navigationEnabled", false, true)};
+          plain("navigationEnabled", false, true),
+          plain("wheelAction", QVariant::fromValue(WheelAction::ScrollRows),
+                QVariant::fromValue(WheelAction::Pan))};
 }
 
 TEST(TimelineWidget, HasThePropertiesOfTheTableAndNoOthers) {
@@ -271,7 +273,7 @@ TEST(TimelineWidget, AHandlerThatThrowsInAnEventOfQtsIsWarnedOfAndGoesNoFurther)
   QObject::connect(&widget, &TimelineWidget::visibleRangeChanged,
                    [] { throw std::runtime_error("no luck"); });
   const QPointF at(100, 200);
-  QWheelEvent wheel(at, at, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QWheelEvent wheel(at, at, {}, {0, 120}, Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
   QCoreApplication::sendEvent(&CanvasOf(widget), &wheel);
   EXPECT_LT(widget.duration(), 600);
   EXPECT_EQ(test::TakeWarnings(), QStringList("murtimeline: an event handler failed: no luck"));

@@ -16,7 +16,7 @@ using test::SampleTimeline;
 
 void TurnWheel(QWidget& WindowA) {
   const QPointF at(100, 20);
-  QWheelEvent event(at, at, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QWheelEvent event(at, at, {}, {0, 120}, Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
   QCoreApplication::sendEvent(&WindowA, &event);
 }
 

@@ -30,7 +30,8 @@ class Navigating : public testing::Test {
   // Asked through the control, so the widget is laid out.
   VisibleRange Range() const { return {widget.control()->WorldTimeT0(), widget.control()->Duration()}; }
 
-  static void Wheel(QWidget& WindowA, double XA, QPoint TurnedA, Qt::KeyboardModifiers ModifiersA = {}) {
+  static void Wheel(QWidget& WindowA, double XA, QPoint TurnedA,
+                    Qt::KeyboardModifiers ModifiersA = Qt::ControlModifier) {
     const QPointF at(XA, 20);
     QWheelEvent event(at, WindowA.mapToGlobal(at), {}, TurnedA, Qt::NoButton, ModifiersA, Qt::NoScrollPhase,
                       false);
@@ -56,7 +57,7 @@ TEST_F(Navigating, ZoomingInAndOutReturnsToTheLastBit) {
   EXPECT_EQ(Range(), start);
 }
 
-TEST_F(Navigating, TheWheelZoomsAtThePointerAndBack) {
+TEST_F(Navigating, TheWheelWithCtrlZoomsAtThePointerAndBack) {
   const Date pointed = widget.timeAt(123);
   for (int notch = 0; notch < 9; ++notch) Wheel(CanvasOf(widget), 123, {0, 120});
   EXPECT_NEAR(widget.duration(), 600 / 8.0, 1e-9);  // a notch is a third of a doubling
