@@ -74,7 +74,10 @@ TimelineWidget::Parts::Parts(QWidget& OwnerA)
     return [&companion](Surface& surface, const RectF& dirty) { companion.Paint(surface, dirty); };
   };
   scaleWidget->SetPaint(paint(*scroller));
-  canvasWidget->SetPaint(paint(*canvas));
+  canvasWidget->SetPaint([this](Surface& surface, const RectF& dirty) {
+    canvas->Paint(surface, dirty);
+    rows.FollowSoon();  // what changed between two paintings was not told one by one
+  });
   canvasWidget->SetPointer(*canvas);
   canvasWidget->setAcceptDrops(true);
   canvasWidget->setAttribute(Qt::WA_AcceptTouchEvents);

@@ -33,7 +33,8 @@ QString GuideRow(const char* KeysA, const char* EffectA) {
 
 QString GuideText() {
   return QStringLiteral("<h3>Finding your way</h3><table cellpadding=3>") +
-         GuideRow("Wheel", "zoom where the pointer is") + GuideRow("Shift + wheel", "move earlier or later") +
+         GuideRow("Wheel", "scroll the tracks") + GuideRow("Ctrl + wheel", "zoom where the pointer is") +
+         GuideRow("Shift + wheel", "move earlier or later") +
          GuideRow("Drag the background", "move earlier or later") +
          GuideRow("Click a bar", "show its object at the side") +
          GuideRow("Drag a bar or a marker", "move it (Edit, Allow Moving Bars)") +

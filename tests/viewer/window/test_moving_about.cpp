@@ -50,7 +50,7 @@ TEST_F(MovingAbout, PansByAQuarterOfTheWidth) {
   EXPECT_NEAR(SecondsAt(0), 10, kMillisecond);
 }
 
-TEST_F(MovingAbout, WheelZoomsAtThePointer) {
+TEST_F(MovingAbout, WheelWithCtrlZoomsAtThePointer) {
   const double duration = Control().Duration(), before = SecondsAt(200);
   TurnWheel({200, 300}, 360);
   EXPECT_NEAR(SecondsAt(200), before, kMillisecond);

@@ -138,7 +138,7 @@ void WindowTest::Click(QPoint PointA) const {
 void WindowTest::TurnWheel(QPoint PointA, int UnitsA) const {
   QWidget& child = ChildAt(PointA);
   QWheelEvent turn(child.mapFrom(&Timeline(), PointA), Timeline().mapToGlobal(PointA), QPoint(),
-                   QPoint(0, UnitsA), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                   QPoint(0, UnitsA), Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
   QApplication::sendEvent(&child, &turn);
 }
 
