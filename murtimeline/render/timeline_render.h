@@ -123,7 +123,7 @@ class MUR_API MURTimelineRender final : public Object {
   // Markers on the time scale, named by their keys or by their positions there. Where there is no such marker
   // readers find the empty value and writers do nothing.
   void TimeScaleMarkersClear();
-  /// Throws Overflow beyond 32,767 markers.
+  /// 0 beyond 32,767 markers, too.
   std::int16_t TimeScaleMarkersCount() const;
   /// A key that exists (letter case ignored) is ignored.
   void TimeScaleMarkerAdd(Date WorldTimeA, StringView MarkerKeyA, StringView CaptionA = {},

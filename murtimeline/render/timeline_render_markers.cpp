@@ -32,9 +32,9 @@ void MURTimelineRender::TimeScaleMarkersClear() {
 }
 
 std::int16_t MURTimelineRender::TimeScaleMarkersCount() const {
-  std::int32_t count = 0;
-  ResumeNext([&] { count = mParts->state.Scroller().MarkersCount(); });
-  return Narrow<std::int16_t>(count);
+  std::int16_t count = 0;
+  ResumeNext([&] { count = Narrow<std::int16_t>(mParts->state.Scroller().MarkersCount()); });
+  return count;
 }
 
 void MURTimelineRender::TimeScaleMarkerAdd(Date WorldTimeA, StringView MarkerKeyA, StringView CaptionA,
