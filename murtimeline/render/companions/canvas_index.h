@@ -97,7 +97,7 @@ class MUR_API CanvasIndex {
     float reach;  // the rightmost edge of the entries before it in its row
   };
   struct NotedPlace {
-    ItemPlace place;
+    float left, top, right, bottom;
     Slot slot;
   };
   struct Newcomer {
@@ -140,8 +140,10 @@ class MUR_API CanvasIndex {
   template <class Visit>
   void VisitNotedAt(PointF PointA, Visit& VisitA) {
     if (!mNotedAreGathered) GatherNoted();
-    for (const auto& [place, slot] : mNotedPlaces)
-      if (place.Overlaps({PointA.x, PointA.y, 0, 0})) VisitA(slot);
+    for (const NotedPlace& place : mNotedPlaces)
+      if (place.left <= PointA.x && PointA.x < place.right && place.top <= PointA.y &&
+          PointA.y < place.bottom)
+        VisitA(place.slot);
   }
 
   std::size_t RowBegin(std::size_t RowA) const { return RowA == 0 ? 0 : mRows[RowA - 1].end; }
