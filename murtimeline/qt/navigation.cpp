@@ -135,10 +135,12 @@ double Navigation::Width() const {
   return std::max(static_cast<double>(mCanvasHost.Width() / ChildHost::kTwipsPerPixel), kNarrowest);
 }
 
+// What is gone must not hear of the event any more.
 bool Navigation::eventFilter(QObject* WatchedA, QEvent* EventA) {
+  const QPointer<QObject> watched(WatchedA);
   bool handled = false;
   GuardEvent([&] { handled = Handle(WatchedA, *EventA); });
-  return handled;
+  return handled || !watched;
 }
 
 // Presses and moves go on to the widget, whose listeners hear them as ever.

@@ -28,17 +28,6 @@ RowScroller::RowScroller(Ref<MURGraphicCanvas> CanvasA, QWidget& CanvasWidgetA)
   });
 }
 
-void RowScroller::FollowSoon() {
-  if (std::exchange(mFollowsSoon, true)) return;
-  QMetaObject::invokeMethod(
-      this,
-      [this] {
-        mFollowsSoon = false;
-        Follow();
-      },
-      Qt::QueuedConnection);
-}
-
 void RowScroller::Follow() {
   const QScopedValueRollback follows(mFollows, true);
   mCanvas->SetScrollTop(mCanvas->ScrollTop());

@@ -16,8 +16,6 @@ class RowScroller final : public QObject {
   /// The scroll bar belongs to `CanvasWidgetA`, which outlives this.
   RowScroller(Ref<MURGraphicCanvas> CanvasA, QWidget& CanvasWidgetA);
 
-  /// Something on the canvas changed: follows it when the events at hand are done.
-  void FollowSoon();
   /// Brings the scroll bar in step with the canvas.
   void Follow();
 
@@ -32,7 +30,6 @@ class RowScroller final : public QObject {
   Ref<MURGraphicCanvas> mCanvas;
   QWidget& mCanvasWidget;
   QScrollBar& mBar;
-  bool mFollowsSoon = false;
   bool mFollows = false;
 };
 

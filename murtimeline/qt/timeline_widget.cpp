@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include <murtimeline/automation/guard.h>
 #include <murtimeline/qt/conversions.h>
@@ -65,18 +66,19 @@ TimelineWidget::Parts::Parts(QWidget& OwnerA)
       navigation(control, canvas, canvasHost, rows, *scaleWidget, *canvasWidget),
       keyboard(control, canvas, scroller, navigation, rows),
       drops(*canvas),
-      touch(*canvas, navigation) {
+      touch(*canvas, navigation),
+      accessibility({OwnerA, *canvasWidget, *control, *canvas, keyboard}) {
   constexpr float kScaleDesignHeight = 600;  // twips
   scaleHost.SetHeight(kScaleDesignHeight);
   canvasHost.SetResized([canvas = canvas.Get()] { canvas->Resized(); });
-  canvasHost.SetInvalidated([this] { rows.FollowSoon(); });
+  canvasHost.SetInvalidated([this] { FollowSoon(); });
   const auto paint = [](auto& companion) {
     return [&companion](Surface& surface, const RectF& dirty) { companion.Paint(surface, dirty); };
   };
   scaleWidget->SetPaint(paint(*scroller));
   canvasWidget->SetPaint([this](Surface& surface, const RectF& dirty) {
     canvas->Paint(surface, dirty);
-    rows.FollowSoon();  // what changed between two paintings was not told one by one
+    FollowSoon();  // what changed between two paintings was not told one by one
   });
   canvasWidget->SetPointer(*canvas);
   canvasWidget->setAcceptDrops(true);
@@ -99,9 +101,25 @@ TimelineWidget::Parts::Parts(QWidget& OwnerA)
   });
 }
 
-// The hosts may outlive all else.
+// The hosts, the companions and the control may outlive all else; they must not wait for a release.
 TimelineWidget::Parts::~Parts() {
   canvasHost.SetInvalidated({});
+  connections.clear();
+  ResumeNext([this] { canvas->PointerLost(); });
+  ResumeNext([this] { scroller->PointerLost(); });
+}
+
+// Once for all that the events at hand do.
+void TimelineWidget::Parts::FollowSoon() {
+  if (std::exchange(followsSoon, true)) return;
+  QMetaObject::invokeMethod(
+      &rows,
+      [this] {
+        followsSoon = false;
+        rows.Follow();
+        accessibility.Follow();
+      },
+      Qt::QueuedConnection);
 }
 
 void TimelineWidget::Parts::LayOut(QSizeF SizeA) {
@@ -113,6 +131,10 @@ void TimelineWidget::Parts::LayOut(QSizeF SizeA) {
 TimelineWidget::TimelineWidget(QWidget* parent)
     : TimelineEvents(parent), mParts(std::make_unique<Parts>(*this)) {
   setFocusPolicy(Qt::StrongFocus);
+  [[maybe_unused]] static const bool kInstalled = [] {
+    QAccessible::installFactory(&TimelineWidget::makeAccessible);
+    return true;
+  }();
   std::ranges::move(forward(*mParts->control), std::back_inserter(mParts->connections));
   mParts->connections.push_back(mParts->control->CursorTimeChange.Connect(
       [this](Date time) { Q_EMIT cursorTimeChange(ToQDateTime(time)); }));
@@ -124,6 +146,11 @@ TimelineWidget::TimelineWidget(QWidget* parent)
 }
 
 TimelineWidget::~TimelineWidget() = default;
+
+QAccessibleInterface* TimelineWidget::makeAccessible(const QString& /*className*/, QObject* object) {
+  auto* widget = qobject_cast<TimelineWidget*>(object);
+  return widget ? new AccessibleTimeline(*widget, widget->mParts->accessibility) : nullptr;
+}
 
 // Qt tells a hidden widget of its size only when it is shown; this is asked before anything that depends on
 // it.

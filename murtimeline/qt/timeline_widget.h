@@ -8,6 +8,7 @@
 #include <murtimeline/qt/timeline_events.h>
 #include <murtimeline/qt/wheel_action.h>
 
+class QAccessibleInterface;
 class QPainter;
 
 namespace mur::qt {
@@ -220,6 +221,7 @@ class MUR_API TimelineWidget : public TimelineEvents {
  private:
   struct Parts;
 
+  static QAccessibleInterface* makeAccessible(const QString& className, QObject* object);
   bool handleKeys(QEvent& event);
   void layOut() const;
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include <murtimeline/qt/accessibility.h>
 #include <murtimeline/qt/child_widget.h>
 #include <murtimeline/qt/drop_router.h>
 #include <murtimeline/qt/keyboard.h>
@@ -18,6 +19,8 @@ struct TimelineWidget::Parts {
   explicit Parts(QWidget& OwnerA);
   ~Parts();
 
+  /// Brings what depends on the bars in step with them when the events at hand are done.
+  void FollowSoon();
   /// Lays the control out for a size in logical pixels. Listeners may end the widget meanwhile.
   void LayOut(QSizeF SizeA);
 
@@ -35,6 +38,8 @@ struct TimelineWidget::Parts {
   Keyboard keyboard;
   DropRouter drops;
   TouchInput touch;
+  Accessibility accessibility;
+  bool followsSoon = false;
   QSize laidOut;
   std::vector<Connection> connections;
 };

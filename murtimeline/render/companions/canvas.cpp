@@ -155,6 +155,11 @@ Ref<ICanvasItem> MURGraphicCanvas::Graphic(const Variant& KeyIndexA) const {
   return ItemInSlot(Selector(KeyIndexA).SlotIn(mItems));
 }
 
+std::size_t MURGraphicCanvas::PositionOf(StringView KeyA) const {
+  const std::size_t slot = mItems.SlotOfKey(KeyA);
+  return slot == Items::kNone ? 0 : mItems.PositionOfSlot(slot);
+}
+
 Ref<ICanvasItem> MURGraphicCanvas::GraphicByKey(StringView KeyA) const {
   return ItemInSlot(mItems.SlotOfKey(KeyA));
 }

@@ -87,6 +87,8 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas, public PointerTarg
 
   std::size_t GraphicCount() const override { return mItems.Count(); }
   Ref<ICanvasItem> Graphic(const Variant& KeyIndexA) const override;
+  /// The 1-based position of the item with that key; 0 when there is none.
+  std::size_t PositionOf(StringView KeyA) const;
   Ref<ICanvasItem> GraphicByKey(StringView KeyA) const override;
   Ref<ICanvasItem> AddGraphic(StringView KeyA, int KindA) override {
     return AddGraphicSharing(SharedText(KeyA), KindA);
