@@ -38,13 +38,15 @@ QString GuideText() {
          GuideRow("Drag the background", "move earlier or later") +
          GuideRow("Click a bar", "show its object at the side") +
          GuideRow("Drag a bar or a marker", "move it (Edit, Allow Moving Bars)") +
+         GuideRow("Arrows, Enter", "walk from bar to bar, show the object") +
+         GuideRow("Ctrl + left, Ctrl + right", "move the bar, with Shift further") +
          GuideRow("Click or drag on the scale", "set the cursor") +
          GuideRow("Ctrl + F, F3, Shift + F3", "find by tag, next, previous") +
          GuideRow("Ctrl + Z, Ctrl + Shift + Z", "undo, redo") +
          GuideRow("Ctrl + 0", "show the whole time line") +
          GuideRow("Ctrl + plus, Ctrl + minus", "zoom about the middle") +
-         GuideRow("Alt + left, Alt + right", "move earlier or later") + GuideRow("Esc", "cancel loading") +
-         QStringLiteral("</table>");
+         GuideRow("Alt + left, Alt + right", "move earlier or later") +
+         GuideRow("Esc", "cancel a drag or loading") + QStringLiteral("</table>");
 }
 
 QString AboutText() {
