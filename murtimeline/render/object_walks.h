@@ -1,5 +1,6 @@
 #pragma once
 
+#include <murtimeline/automation/export.h>
 #include <murtimeline/model/timeline_object_interface.h>
 
 namespace mur {
@@ -7,7 +8,7 @@ namespace mur {
 // A ring has more levels than can be counted: each of these throws Overflow for it.
 
 /// The top-level ancestor, the object itself when it has no parent.
-Ref<IMURTimelineObject> GetRootObject(const Ref<IMURTimelineObject>& ObjectA);
+MUR_API Ref<IMURTimelineObject> GetRootObject(const Ref<IMURTimelineObject>& ObjectA);
 
 /// 1 + the number of ancestors. Throws Overflow beyond 32,767.
 int GetNestingLevel(const Ref<IMURTimelineObject>& ObjectA);

@@ -14,7 +14,7 @@ class MURGraphicCanvas;
 /// meanwhile, it is told one last release, so that no drag of it goes on, and nothing else is reported until
 /// all buttons are up. A button that was not pressed here is not released here. Every routine keeps its
 /// canvas: listeners may do anything.
-class CanvasPointer {
+class MUR_API CanvasPointer {
  public:
   /// `CanvasA` owns this.
   explicit CanvasPointer(MURGraphicCanvas& CanvasA) : mCanvas(CanvasA) {}
