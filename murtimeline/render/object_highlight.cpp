@@ -42,6 +42,7 @@ void ObjectHighlight::RecolorAll(IsHighlighted&& IsHighlightedA) {
   bool remembers = mTimeline != nullptr;
   HighlightMemory memory = std::exchange(mMemory, {});
   memory.Clear();
+  if (remembers) memory.Reserve(timeline->MemberCount());
   auto objects = timeline->NewEnum();
   while (const ObjectRef object = objects.Next()) {
     const auto span = remembers ? object->WatchSpan(*timeline) : std::nullopt;
