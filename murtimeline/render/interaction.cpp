@@ -22,7 +22,7 @@ void Interaction::Listen(Event<Arguments...>& EventA, Handler HandlerA) {
 template <class ItemEvent, class Handler>
 void Interaction::ListenToItems(ItemEvent& EventA, Handler HandlerA) {
   Listen(EventA, [HandlerA](const ItemRef& item, auto&... arguments) {
-    if (const ItemRef held = item) HandlerA(held, arguments...);
+    if (const ItemRef held(item.Get()); held) HandlerA(held, arguments...);
   });
 }
 

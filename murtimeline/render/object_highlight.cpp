@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <utility>
 
 #include <murtimeline/automation/guard.h>
@@ -87,9 +88,7 @@ bool ObjectHighlight::WriteFlipped(WordOf&& WordOfA) {
 
 // Whether a change was one of the colour does not show in the memory: all that changed are written.
 bool ObjectHighlight::WriteChanged() {
-  for (const std::size_t index : mChangedAt)
-    if (!Write(index)) return false;
-  return true;
+  return std::ranges::all_of(mChangedAt, [this](std::size_t index) { return Write(index); });
 }
 
 // False when somebody interfered, so that the members may be others.
