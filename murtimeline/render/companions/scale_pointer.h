@@ -5,12 +5,12 @@
 #include <murtimeline/automation/export.h>
 #include <murtimeline/render/companions/held_buttons.h>
 #include <murtimeline/render/companions/scroll_interface.h>
+#include <murtimeline/render/companions/time_scale_marker.h>
 #include <murtimeline/render/port/pointer_input.h>
 
 namespace mur {
 
 class MURTimelineScroll;
-class TimeScaleMarker;
 
 /// Turns what a face reports of the pointer into the events of a time scale, and moves the scale's cursor.
 ///
