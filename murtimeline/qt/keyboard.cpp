@@ -135,10 +135,7 @@ void Keyboard::Focus(const Ref<ICanvasItem>& ItemA) {
   mCurrent = item;
   mCanvas->SetFocusedItem(item);
   if (isOther) Q_EMIT currentChanged();
-  if (!self || !mNavigation.IsEnabled()) return;
-  mRows.Reveal(*item);
-  const RectF bounds = mCanvas->PixelBounds(*item);
-  mNavigation.Reveal(static_cast<double>(bounds.left), static_cast<double>(bounds.Right()));
+  if (self && mNavigation.IsEnabled()) mNavigation.Reveal(*item);
 }
 
 void Keyboard::ShowRing(bool ShowA) {

@@ -109,6 +109,12 @@ void Navigation::Reveal(double LeftA, double RightA) {
   if (by != 0 && std::isfinite(by)) Show(range.MovedBy(by / Width() * range.duration));
 }
 
+void Navigation::Reveal(const ICanvasItem& BarA) {
+  mRows.Reveal(BarA);
+  const RectF bounds = mCanvas->PixelBounds(BarA);
+  Reveal(static_cast<double>(bounds.left), static_cast<double>(bounds.Right()));
+}
+
 Date Navigation::TimeAt(double XA) const {
   return Range().TimeAt(XA / Width());
 }

@@ -52,6 +52,8 @@ class Navigation final : public QObject {
   bool ShowEnd();
   /// Pans until a stretch of the canvas (pixels) is in view, its start before its end.
   void Reveal(double LeftA, double RightA);
+  /// Moves rows and times until a bar is in view.
+  void Reveal(const ICanvasItem& BarA);
   double Width() const;
 
   /// Moves times and rows as if they were taken at one point and were now at another (pixels), from where

@@ -185,6 +185,8 @@ class MUR_API TimelineWidget : public TimelineEvents {
   Q_INVOKABLE void pan(double seconds);
   /// Shows all members with a little air at both ends; false when there are none.
   Q_INVOKABLE bool fit();
+  /// Moves rows and times no further than it takes to see the bar of that key; false when there is none.
+  Q_INVOKABLE bool reveal(const QVariant& keyIndex);
   /// Between pixels of the canvas and world times, for status lines and the like.
   Date timeAt(double x) const;
   double xOf(Date time) const;

@@ -32,6 +32,14 @@ bool TimelineWidget::fit() {
   return mParts->navigation.Fit();
 }
 
+bool TimelineWidget::reveal(const QVariant& keyIndex) {
+  layOut();
+  const Ref<ICanvasItem> bar = mParts->canvas->Graphic(ToVariant(keyIndex));
+  if (!bar) return false;
+  mParts->navigation.Reveal(*bar);
+  return true;
+}
+
 Date TimelineWidget::timeAt(double x) const {
   layOut();
   return mParts->navigation.TimeAt(x);

@@ -139,6 +139,23 @@ TEST_F(RowScrolling, APinchOfATouchPadZoomsAtThePointerAndBack) {
   EXPECT_EQ(widget.control()->WorldTimeT0(), SampleTimeline::At(0));
 }
 
+TEST_F(RowScrolling, ABarIsRevealedByItsKeyAndNothingMovesOnceItIsSeen) {
+  widget.control()->SetWorldTimeT0(SampleTimeline::At(3000));
+  EXPECT_TRUE(widget.reveal(QStringLiteral("Note 3")));
+  const RectF bounds = CanvasItself().PixelBounds(*CanvasItself().GraphicByKey(u"Note 3"));
+  EXPECT_GE(bounds.left, -0.1F);
+  EXPECT_LE(bounds.Right(), 600.1F);
+  EXPECT_GE(bounds.top, 0);
+  EXPECT_LE(bounds.Bottom(), 160);
+  EXPECT_GT(Bar().value(), 0);
+  const Date start = widget.control()->WorldTimeT0();
+  const int top = Bar().value();
+  EXPECT_TRUE(widget.reveal(QStringLiteral("Note 3")));
+  EXPECT_NEAR(widget.control()->WorldTimeT0().Seconds(), start.Seconds(), 1e-3);
+  EXPECT_EQ(Bar().value(), top);
+  EXPECT_FALSE(widget.reveal(QStringLiteral("nowhere")));
+}
+
 TEST_F(RowScrolling, ThePictureShowsTheScrolledRows) {
   const QImage before = widget.renderToImage({600, 200});
   Bar().setValue(77);

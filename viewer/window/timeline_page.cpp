@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include <murtimeline/qt/conversions.h>
 #include <murtimeline/qt/event_guard.h>
 #include <murtimeline/qt/timeline_widget.h>
 
@@ -78,14 +79,14 @@ void TimelinePage::MoveMarker(std::size_t MarkerA, double SecondsA) {
     shown->SetWorldTime(time);
 }
 
+// What lies far off comes to the middle; the rest is no more than it takes.
 void TimelinePage::Reveal(const IMURTimelineObject& ObjectA) {
   const Ref<MURTimelineRender> control = mWidget->control();
   const double from = control->WorldTimeT0().Seconds(), seen = control->Duration();
   const double start = ObjectA.WorldTimeT0().Seconds(), length = ObjectA.Duration();
-  const bool isSeen = start >= from && start + std::min(length, 0.0) <= from + seen;
-  if (isSeen && std::min(start + length, start + seen) <= from + seen) return;
-  const double lead = length < seen ? (seen - length) / 2 : seen / 10;
-  mWidget->pan(start - lead - from);
+  if (start + length < from || start > from + seen)
+    mWidget->pan(start - from - (length < seen ? (seen - length) / 2 : seen / 10));
+  mWidget->reveal(qt::ToQString(ObjectA.Key()));
 }
 
 void TimelinePage::changeEvent(QEvent* EventA) {

@@ -36,7 +36,7 @@ class TimelinePage final : public QWidget {
   /// Puts a marker of the file's list to another time, in the file's seconds; out of the range of dates it
   /// stays.
   void MoveMarker(std::size_t MarkerA, double SecondsA);
-  /// Pans so that the object's bar is seen.
+  /// Moves times and rows so that the object's bar is seen.
   void Reveal(const IMURTimelineObject& ObjectA);
 
  Q_SIGNALS:
