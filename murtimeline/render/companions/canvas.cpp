@@ -87,36 +87,30 @@ RectF MURGraphicCanvas::Area() const {
   return {0, 0, mHost.Width() / ChildHost::kTwipsPerPixel, mHost.Height() / ChildHost::kTwipsPerPixel};
 }
 
-void MURGraphicCanvas::DraggedOver(DragInput& InputA, std::int16_t StateA) {
+// Tells the topmost visible item there, or the background.
+template <class ItemEvent, class BackgroundEvent, class... More>
+void MURGraphicCanvas::RaiseDrag(const ItemEvent& ItemEventA, const BackgroundEvent& BackgroundEventA,
+                                 DragInput& InputA, More&... MoreA) {
   const Ref<MURGraphicCanvas> keep(this);
+  auto& [data, effect, pointer] = InputA;
   if (mOLEDropMode == kNoDrops) {
-    InputA.effect = kDropNone;
+    effect = kDropNone;
     return;
   }
-  auto& [data, effect, pointer] = InputA;
-  if (const Ref<ICanvasItem> item = ItemAt(pointer.at)) {
-    PointF at = PointOn(*item, pointer.at);
-    ItemOLEDragOver.Raise(item, data, effect, pointer.button, pointer.shift, at.x, at.y, StateA);
-  } else {
-    PointF at = UnitsAt(pointer.at);
-    OLEDragOver.Raise(data, effect, pointer.button, pointer.shift, at.x, at.y, StateA);
-  }
+  const Ref<ICanvasItem> item = ItemAt(pointer.at);
+  PointF at = item ? PointOn(*item, pointer.at) : UnitsAt(pointer.at);
+  if (item)
+    ItemEventA.Raise(item, data, effect, pointer.button, pointer.shift, at.x, at.y, MoreA...);
+  else
+    BackgroundEventA.Raise(data, effect, pointer.button, pointer.shift, at.x, at.y, MoreA...);
+}
+
+void MURGraphicCanvas::DraggedOver(DragInput& InputA, std::int16_t StateA) {
+  RaiseDrag(ItemOLEDragOver, OLEDragOver, InputA, StateA);
 }
 
 void MURGraphicCanvas::Dropped(DragInput& InputA) {
-  const Ref<MURGraphicCanvas> keep(this);
-  if (mOLEDropMode == kNoDrops) {
-    InputA.effect = kDropNone;
-    return;
-  }
-  auto& [data, effect, pointer] = InputA;
-  if (const Ref<ICanvasItem> item = ItemAt(pointer.at)) {
-    PointF at = PointOn(*item, pointer.at);
-    ItemOLEDragDrop.Raise(item, data, effect, pointer.button, pointer.shift, at.x, at.y);
-  } else {
-    PointF at = UnitsAt(pointer.at);
-    OLEDragDrop.Raise(data, effect, pointer.button, pointer.shift, at.x, at.y);
-  }
+  RaiseDrag(ItemOLEDragDrop, OLEDragDrop, InputA);
 }
 
 bool MURGraphicCanvas::IsMovable(const ICanvasItem& ItemA) const {

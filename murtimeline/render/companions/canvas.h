@@ -107,6 +107,9 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas, public PointerTarg
   };
   using Items = KeyedSequence<Ref<CanvasItem>, KeyOf>;
 
+  template <class ItemEvent, class BackgroundEvent, class... More>
+  void RaiseDrag(const ItemEvent& ItemEventA, const BackgroundEvent& BackgroundEventA, DragInput& InputA,
+                 More&... MoreA);
   Ref<ICanvasItem> ItemInSlot(std::size_t SlotA) const;
   float UnitsPerPixel() const;
   float PixelsPerUnit() const { return 1 / UnitsPerPixel(); }

@@ -1,31 +1,15 @@
-#include <utility>
-
 #include <murtimeline/render/companions/canvas.h>
 #include <murtimeline/render/companions/canvas_pointer.h>
 
 namespace mur {
-namespace {
-
-std::int16_t Joined(std::int16_t ButtonsA, std::int16_t PressedA) {
-  return static_cast<std::int16_t>(ButtonsA | PressedA);
-}
-
-std::int16_t Without(std::int16_t ButtonsA, std::int16_t ReleasedA) {
-  return static_cast<std::int16_t>(ButtonsA & ~ReleasedA);
-}
-
-}  // namespace
-
 // State is settled before each event is raised: listeners may press, move and release themselves.
 
 void CanvasPointer::Press(const PointerInput& InputA, bool IsDoubleA) {
   const Ref<MURGraphicCanvas> keep(&mCanvas);
-  if ((mHeld & InputA.button) != 0) Lose();  // its release was not reported
-  if (mHeld == 0) mSubject = SubjectAt(InputA.at);
+  if (mButtons.Has(InputA.button)) Lose();  // its release was not reported
+  if (!mButtons.Any()) mSubject = SubjectAt(InputA.at);
   mLast = InputA;
-  mHeld = Joined(mHeld, InputA.button);
-  mLastPressed = InputA.button;
-  mIsDouble = IsDoubleA;
+  mButtons.Press(InputA.button, IsDoubleA);
   TellIfGone();
   mCanvas.Host().CapturePointer(true);
   Raise(mCanvas.MouseDown, mCanvas.ItemMouseDown, Subject(mSubject), InputA);
@@ -36,21 +20,20 @@ void CanvasPointer::Move(const PointerInput& InputA) {
   const Ref<MURGraphicCanvas> keep(&mCanvas);
   mLast = InputA;
   TellIfGone();
-  Raise(mCanvas.MouseMove, mCanvas.ItemMouseMove, mHeld == 0 ? SubjectAt(InputA.at) : Subject(mSubject),
+  Raise(mCanvas.MouseMove, mCanvas.ItemMouseMove, mButtons.Any() ? Subject(mSubject) : SubjectAt(InputA.at),
         InputA);
   ShowShape();
 }
 
 void CanvasPointer::Release(const PointerInput& InputA) {
   const Ref<MURGraphicCanvas> keep(&mCanvas);
-  if ((mHeld & InputA.button) == 0) return;
+  if (!mButtons.Has(InputA.button)) return;
   mLast = InputA;
   TellIfGone();
   const Subject subject = mSubject;
-  const bool clicks = (mLastPressed & InputA.button) != 0, isDouble = mIsDouble;
-  if (clicks) mLastPressed = 0;
-  mHeld = Without(mHeld, InputA.button);
-  if (mHeld == 0) EndGesture();
+  const bool isDouble = mButtons.IsDouble();
+  const bool clicks = mButtons.Release(InputA.button);
+  if (!mButtons.Any()) EndGesture();
   Raise(mCanvas.MouseUp, mCanvas.ItemMouseUp, subject, InputA);
   if (clicks && IsOn(subject, InputA.at)) RaiseClick(subject, isDouble);
   ShowShape();
@@ -58,10 +41,10 @@ void CanvasPointer::Release(const PointerInput& InputA) {
 
 void CanvasPointer::Lose() {
   const Ref<MURGraphicCanvas> keep(&mCanvas);
-  if (mHeld == 0) return;
+  if (!mButtons.Any()) return;
   TellIfGone();
   const Subject subject = mSubject;
-  const PointerInput released{mLast.at, std::exchange(mHeld, std::int16_t{0}), mLast.shift};
+  const PointerInput released{mLast.at, mButtons.Lose(), mLast.shift};
   EndGesture();
   Raise(mCanvas.MouseUp, mCanvas.ItemMouseUp, subject, released);
   ShowShape();
@@ -73,15 +56,14 @@ CanvasPointer::Subject CanvasPointer::SubjectAt(PointF AtA) const {
 
 void CanvasPointer::EndGesture() {
   mSubject = {};
-  mLastPressed = 0;
   mCanvas.Host().CapturePointer(false);
 }
 
 void CanvasPointer::TellIfGone() {
-  if (mHeld == 0 || !mSubject.item || mSubject.isGone || mCanvas.Holds(*mSubject.item)) return;
+  if (!mButtons.Any() || !mSubject.item || mSubject.isGone || mCanvas.Holds(*mSubject.item)) return;
   const Subject last = mSubject;
   mSubject.isGone = true;
-  Raise(mCanvas.MouseUp, mCanvas.ItemMouseUp, last, {mLast.at, mHeld, mLast.shift});
+  Raise(mCanvas.MouseUp, mCanvas.ItemMouseUp, last, {mLast.at, mButtons.All(), mLast.shift});
 }
 
 bool CanvasPointer::IsOn(const Subject& SubjectA, PointF AtA) const {
@@ -110,9 +92,9 @@ void CanvasPointer::Raise(const PointerEventOf<>& BackgroundA,
 
 // Of what is under the pointer now, which a listener may have changed.
 void CanvasPointer::ShowShape() const {
-  const Subject subject = mHeld == 0 ? SubjectAt(mLast.at) : mSubject;
+  const Subject subject = mButtons.Any() ? mSubject : SubjectAt(mLast.at);
   const bool moves = subject.item && !subject.isGone && mCanvas.IsMovable(*subject.item);
-  const bool isHeld = (mHeld & kLeftButton) != 0;
+  const bool isHeld = mButtons.Has(kLeftButton);
   mCanvas.Host().SetPointerShape(!moves   ? PointerShape::Standard
                                  : isHeld ? PointerShape::Moves
                                           : PointerShape::CanMove);

@@ -2,6 +2,7 @@
 
 #include <murtimeline/automation/export.h>
 #include <murtimeline/render/companions/canvas_interface.h>
+#include <murtimeline/render/companions/held_buttons.h>
 #include <murtimeline/render/port/pointer_input.h>
 
 namespace mur {
@@ -24,7 +25,7 @@ class MUR_API CanvasPointer {
   void Release(const PointerInput& InputA);
   void Lose();
   /// Whether a button that was pressed on the canvas is held.
-  bool IsHeld() const { return mHeld != 0; }
+  bool IsHeld() const { return mButtons.Any(); }
 
  private:
   /// What the reports are about: an item or, without one, the background.
@@ -43,11 +44,9 @@ class MUR_API CanvasPointer {
              const Subject& SubjectA, const PointerInput& InputA) const;
 
   MURGraphicCanvas& mCanvas;
-  Subject mSubject;               // of the presses, while a button is held
-  PointerInput mLast;             // where the pointer is
-  std::int16_t mHeld = 0;         // buttons
-  std::int16_t mLastPressed = 0;  // none once it was released
-  bool mIsDouble = false;         // of the last press
+  Subject mSubject;  // of the presses, while a button is held
+  HeldButtons mButtons;
+  PointerInput mLast;  // where the pointer is
 };
 
 }  // namespace mur
