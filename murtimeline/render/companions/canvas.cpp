@@ -80,7 +80,9 @@ void MURGraphicCanvas::SetFocusedItem(const Ref<ICanvasItem>& ItemA) {
 }
 
 const CanvasItem* MURGraphicCanvas::Own(const ICanvasItem& ItemA) const {
-  return Holds(ItemA) ? static_cast<const CanvasItem*>(&ItemA) : nullptr;
+  const std::size_t slot = mItems.SlotOfKey(ItemA.Key());
+  const CanvasItem* own = slot == Items::kNone ? nullptr : mItems.At(slot).Get();
+  return own == &ItemA ? own : nullptr;
 }
 
 RectF MURGraphicCanvas::Area() const {

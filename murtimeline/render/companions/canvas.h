@@ -56,7 +56,7 @@ class MUR_API MURGraphicCanvas final : public IGraphicCanvas, public PointerTarg
   /// The item itself when it is on this canvas; null otherwise.
   const CanvasItem* Own(const ICanvasItem& ItemA) const;
   /// Whether an item is on this canvas still.
-  bool Holds(const ICanvasItem& ItemA) const { return GraphicByKey(ItemA.Key()).Get() == &ItemA; }
+  bool Holds(const ICanvasItem& ItemA) const { return Own(ItemA) != nullptr; }
   ChildHost& Host() const { return mHost; }
 
   // The pointer: see CanvasPointer.
