@@ -52,8 +52,8 @@ std::optional<CanvasIndex::Slot> CanvasIndex::NextInRow(const RowSpot& FromA, bo
   using Spot = std::pair<float, Slot>;
   const Spot from{FromA.left, FromA.slot};
   std::optional<Spot> best;
-  const auto isNearer = [&](const Spot& spot, const Spot& other) {
-    return ForwardsA ? spot < other : other < spot;
+  const auto isNearer = [&](const Spot& nearer, const Spot& farther) {
+    return ForwardsA ? nearer < farther : farther < nearer;
   };
   const auto offer = [&](float left, Slot slot) {
     if (best && left != best->first && isNearer(*best, {left, slot})) return false;

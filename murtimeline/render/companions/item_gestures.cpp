@@ -28,7 +28,7 @@ void WhilePressed(MURGraphicCanvas& CanvasA, const Ref<ICanvasItem>& ItemA, std:
 void ClickItem(MURGraphicCanvas& CanvasA, const Ref<ICanvasItem>& ItemA, std::int16_t ButtonA,
                std::int16_t ShiftA) {
   const Ref<MURGraphicCanvas> keep(&CanvasA);
-  const Ref<ICanvasItem> item = ItemA;
+  const Ref<ICanvasItem> item(ItemA.Get());
   if (!item || !CanvasA.Holds(*item)) return;
   WhilePressed(CanvasA, item, ButtonA, ShiftA, [](PointF) {});
   if (CanvasA.Holds(*item)) CanvasA.ItemClick.Raise(item);
@@ -36,7 +36,7 @@ void ClickItem(MURGraphicCanvas& CanvasA, const Ref<ICanvasItem>& ItemA, std::in
 
 void NudgeItem(MURGraphicCanvas& CanvasA, const Ref<ICanvasItem>& ItemA, float PixelsA, std::int16_t ShiftA) {
   const Ref<MURGraphicCanvas> keep(&CanvasA);
-  const Ref<ICanvasItem> item = ItemA;
+  const Ref<ICanvasItem> item(ItemA.Get());
   if (!item || !CanvasA.Holds(*item)) return;
   const float units = PixelsA / CanvasA.Scene().PixelsPerUnit();
   WhilePressed(CanvasA, item, kLeftButton, ShiftA, [&](PointF middle) {
