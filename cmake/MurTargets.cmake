@@ -1,10 +1,20 @@
 # The kinds of target that the project's folders consist of.
 
+# Leaves out of the list what its file name says is for another platform.
+function(mur_keep_platform_sources LIST)
+  if(WIN32)
+    list(FILTER ${LIST} EXCLUDE REGEX "_(icu|posix)\\.cpp$")
+  else()
+    list(FILTER ${LIST} EXCLUDE REGEX "_win32\\.cpp$")
+  endif()
+  set(${LIST} ${${LIST}} PARENT_SCOPE)
+endfunction()
+
 # One layer of the core: an object library of all sources in its folder, which may use the layers named after
 # it (see the layer rule in docs/architecture.md). A folder with headers alone is a layer too.
 function(mur_add_layer LAYER)
   file(GLOB sources CONFIGURE_DEPENDS *.cpp)
-  list(FILTER sources EXCLUDE REGEX "_win32\\.cpp$")
+  mur_keep_platform_sources(sources)
   if(sources)
     add_library(${LAYER} OBJECT ${sources})
     target_link_libraries(${LAYER} PUBLIC mur_settings ${ARGN})
