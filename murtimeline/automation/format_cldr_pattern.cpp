@@ -44,8 +44,8 @@ String Repeated(char16_t LetterA, std::size_t CountA, std::size_t MostA) {
   return String(std::min(CountA, MostA), LetterA);
 }
 
-// The engine's placeholder for a field; empty where it has none.
-String Placeholder(const Item& FieldA) {
+// The engine's placeholder for a field of the Unicode locale data; empty where it has none.
+String CldrPlaceholder(const Item& FieldA) {
   switch (FieldA.unit) {
     case u'y':
       return u"yyyy";
@@ -75,12 +75,47 @@ String Placeholder(const Item& FieldA) {
   }
 }
 
+// The engine's placeholder for a field of Windows; empty where it has none.
+String WindowsPlaceholder(const Item& FieldA) {
+  switch (FieldA.unit) {
+    case u'y':
+      return FieldA.count > 2 ? u"yyyy" : u"yy";
+    case u'M':
+      return Repeated(u'm', FieldA.count, 4);
+    case u'd':
+      return Repeated(u'd', FieldA.count, 4);
+    case u'h':
+    case u'H':
+      return Repeated(u'h', FieldA.count, 2);
+    case u'm':
+      return Repeated(u'n', FieldA.count, 2);
+    case u's':
+      return Repeated(u's', FieldA.count, 2);
+    case u't':
+      return u"AMPM";
+    default:
+      return {};
+  }
+}
+
 constexpr bool IsSpace(char16_t UnitA) {
   return UnitA == u' ' || UnitA == u'\u00A0' || UnitA == u'\u2009' || UnitA == u'\u202F';
 }
 
 constexpr bool IsDirectionMark(char16_t UnitA) {
   return UnitA == u'\u061C' || UnitA == u'\u200E' || UnitA == u'\u200F';
+}
+
+String Translated(StringView PatternA, String (*PlaceholderA)(const Item&)) {
+  String pattern;
+  bool skipsSpace = false;
+  for (const Item& item : Itemize(PatternA)) {
+    const String text = item.isField ? PlaceholderA(item) : EscapedLiterals({&item.unit, 1});
+    // A field that is left out takes one space along, so that no two meet.
+    if (!(skipsSpace && item.unit == u' ')) pattern += text;
+    skipsSpace = text.empty();
+  }
+  return pattern;
 }
 
 }  // namespace
@@ -99,15 +134,11 @@ String EscapedLiterals(StringView TextA) {
 }
 
 String FromCldrPattern(StringView PatternA) {
-  String pattern;
-  bool skipsSpace = false;
-  for (const Item& item : Itemize(PlainText(PatternA))) {
-    const String text = item.isField ? Placeholder(item) : EscapedLiterals({&item.unit, 1});
-    // A field that is left out takes one space along, so that no two meet.
-    if (!(skipsSpace && item.unit == u' ')) pattern += text;
-    skipsSpace = text.empty();
-  }
-  return pattern;
+  return Translated(PlainText(PatternA), CldrPlaceholder);
+}
+
+String FromWindowsPicture(StringView PictureA) {
+  return Translated(PlainText(PictureA), WindowsPlaceholder);
 }
 
 String CldrSeparator(StringView PatternA, StringView OtherwiseA) {

@@ -14,6 +14,10 @@ String EscapedLiterals(StringView TextA);
 /// in full; fields that the engine does not know (eras, time zones) are left out.
 String FromCldrPattern(StringView PatternA);
 
+/// The same for a date or time picture of Windows ("dddd, MMMM d, yyyy", "h:mm:ss tt"), whose years keep
+/// their length.
+String FromWindowsPicture(StringView PictureA);
+
 /// What stands between the first two fields of a pattern of the Unicode locale data, without spaces;
 /// `OtherwiseA` when nothing does or a word ("06 h 00").
 String CldrSeparator(StringView PatternA, StringView OtherwiseA);

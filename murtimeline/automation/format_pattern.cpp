@@ -11,6 +11,10 @@ bool StartsWord(StringView TextA, std::size_t PositionA, StringView WordA) {
                     [](char16_t word, char16_t unit) { return word == AsciiLower(unit); });
 }
 
+bool IsWord(StringView TextA, StringView WordA) {
+  return TextA.size() == WordA.size() && StartsWord(TextA, 0, WordA);
+}
+
 std::optional<PatternSpan> TakeQuoted(StringView PatternA, std::size_t& PositionA) {
   const char16_t opening = PatternA[PositionA];
   if (opening != u'"' && opening != u'\\') return std::nullopt;

@@ -24,6 +24,9 @@ constexpr char16_t AsciiLower(char16_t UnitA) {
 /// Whether `TextA` goes on with `WordA` (in lower case) at `PositionA`; the case of ASCII letters is ignored.
 bool StartsWord(StringView TextA, std::size_t PositionA, StringView WordA);
 
+/// Whether `TextA` is `WordA` (in lower case); the case of ASCII letters is ignored.
+bool IsWord(StringView TextA, StringView WordA);
+
 /// The literal in quotes or behind a backslash that starts at `PositionA`, which moves behind it; none when
 /// there is no such literal. A quote that is never closed runs to the end; a backslash at the end is empty.
 std::optional<PatternSpan> TakeQuoted(StringView PatternA, std::size_t& PositionA);

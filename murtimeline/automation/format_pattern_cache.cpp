@@ -31,10 +31,6 @@ constexpr NamedFormat kNamedFormats[] = {
 // A longer pattern is not worth keeping: no host uses one again and again.
 constexpr std::size_t kLongestKept = 256;
 
-bool IsNamed(StringView PatternA, StringView NameA) {
-  return PatternA.size() == NameA.size() && StartsWord(PatternA, 0, NameA);
-}
-
 PreparedPattern Prepare(StringView PatternA) {
   switch (DecideKind(PatternA)) {
     case PatternKind::Date:
@@ -72,9 +68,9 @@ void PatternCache::Keep(StringView PatternA, std::shared_ptr<const PreparedPatte
 
 // The user-defined pattern that a named format stands for; any other pattern as it is.
 StringView PatternCache::Spelled(StringView PatternA) const {
-  if (IsNamed(PatternA, kCurrencyName)) return mCurrency;
+  if (IsWord(PatternA, kCurrencyName)) return mCurrency;
   for (const NamedFormat& format : kNamedFormats)
-    if (IsNamed(PatternA, format.name)) return format.pattern;
+    if (IsWord(PatternA, format.name)) return format.pattern;
   return PatternA;
 }
 

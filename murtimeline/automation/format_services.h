@@ -9,7 +9,7 @@
 namespace mur {
 
 /// Regional services by the portable engine and the data of one region.
-class FormatServices final : public RegionalServices {
+class FormatServices : public RegionalServices {
  public:
   explicit FormatServices(Region RegionA);
   // The date writer refers to the region beside it.
