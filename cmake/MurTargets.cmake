@@ -38,6 +38,7 @@ endfunction()
 # One test program of all test_*.cpp in its folder.
 function(mur_add_tests NAME)
   file(GLOB sources CONFIGURE_DEPENDS test_*.cpp)
+  mur_keep_platform_sources(sources)
   if(NOT sources)
     return()
   endif()

@@ -59,8 +59,7 @@ TEST(Date, NowIsTheLocalTimeInWholeSeconds) {
   const Date now = Now();
   const double seconds = now.Seconds();
   EXPECT_NEAR(seconds, std::round(seconds), 1e-4);
-  std::tm local{};
-  localtime_r(&before, &local);
+  const std::tm local = *std::localtime(&before);
   const Date expected =
       test::DateOf(local.tm_year + 1900, static_cast<unsigned>(local.tm_mon + 1),
                    static_cast<unsigned>(local.tm_mday), local.tm_hour, local.tm_min, local.tm_sec);

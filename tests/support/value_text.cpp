@@ -12,19 +12,19 @@ namespace {
 
 constexpr auto kEpoch = std::chrono::sys_days(std::chrono::year(1899) / 12 / 30);
 
-Date DateAt(std::chrono::sys_days DayA, long SecondsA) {
+Date DateAt(std::chrono::sys_days DayA, int SecondsA) {
   const auto days = static_cast<double>((DayA - kEpoch).count());
-  return Date::Unchecked(days + static_cast<double>(SecondsA) / kSecondsPerDay);
+  return Date::Unchecked(days + SecondsA / kSecondsPerDay);
 }
 
-std::string CalendarText(std::chrono::sys_days DayA, long SecondsA) {
+std::string CalendarText(std::chrono::sys_days DayA, int SecondsA) {
   const std::chrono::year_month_day day(DayA);
   char text[48];
   int length = std::snprintf(text, sizeof text, "#%04d-%02u-%02u", int{day.year()}, unsigned{day.month()},
                              unsigned{day.day()});
   if (SecondsA != 0)
-    length += std::snprintf(text + length, sizeof text - static_cast<std::size_t>(length),
-                            " %02ld:%02ld:%02ld", SecondsA / 3600, SecondsA / 60 % 60, SecondsA % 60);
+    length += std::snprintf(text + length, sizeof text - static_cast<std::size_t>(length), " %02d:%02d:%02d",
+                            SecondsA / 3600, SecondsA / 60 % 60, SecondsA % 60);
   return std::string(text, static_cast<std::size_t>(length)) + "#";
 }
 
@@ -38,7 +38,7 @@ std::string NumberText(double ValueA) {
 std::string DateText(Date ValueA) {
   if (ValueA.InRange()) {
     const auto total = std::llround(ValueA.Days() * kSecondsPerDay);
-    const auto seconds = (total % 86400 + 86400) % 86400;
+    const int seconds = static_cast<int>((total % 86400 + 86400) % 86400);
     const auto day = kEpoch + std::chrono::days((total - seconds) / 86400);
     if (DateAt(day, seconds) == ValueA) return CalendarText(day, seconds);
   }
