@@ -10,6 +10,11 @@
 #ifndef STRICT
 #define STRICT
 #endif
+// clang-format off: this one comes before all others
+#include <windows.h>
+// clang-format on
+// The first one makes the others compile.
+// clang-format off
 #include <windows.h>
 
 #include <commctrl.h>
@@ -17,6 +22,7 @@
 #include <oleauto.h>
 #include <olectl.h>
 #include <windowsx.h>
+// clang-format on
 
 // Macros that would take names of ours or of the standard library.
 #undef DrawText
