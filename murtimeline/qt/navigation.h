@@ -6,7 +6,7 @@
 
 #include <murtimeline/qt/hosted_child.h>
 #include <murtimeline/qt/row_scroller.h>
-#include <murtimeline/qt/visible_range.h>
+#include <murtimeline/render/visible_range.h>
 #include <murtimeline/qt/wheel_action.h>
 #include <murtimeline/render/companions/canvas.h>
 #include <murtimeline/render/timeline_render.h>

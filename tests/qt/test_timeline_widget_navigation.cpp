@@ -6,7 +6,7 @@
 
 #include <gmock/gmock.h>
 
-#include <murtimeline/qt/visible_range.h>
+#include <murtimeline/render/visible_range.h>
 
 #include "tests/qt/companion_windows.h"
 #include "tests/qt/sample_timeline.h"

@@ -125,15 +125,15 @@ class MUR_API CanvasIndex {
     const std::size_t end = EntriesStartingBy(begin, mRows[RowA].end, XA);
     if (end == begin) return;
     const std::size_t block = (end - 1) / kBlock;
-    const std::size_t near = std::max(begin, block * kBlock);
+    const std::size_t nearest = std::max(begin, block * kBlock);
     const auto visit = [&](std::size_t entry) {
       if (const Slot slot = mEntries[entry].slot; mStates[slot] == (kOnCanvas | kInOrder)) VisitA(slot);
     };
-    for (std::size_t at = near; at < end; ++at)
+    for (std::size_t at = nearest; at < end; ++at)
       if (mEntries[at].right > XA) visit(at);
-    if (near == begin || mBlocks[block].reach <= XA) return;
+    if (nearest == begin || mBlocks[block].reach <= XA) return;
     mRights.ForEachAbove(
-        begin, near, XA, [this](std::size_t entry) { return mEntries[entry].right; }, visit);
+        begin, nearest, XA, [this](std::size_t entry) { return mEntries[entry].right; }, visit);
   }
 
   // Noted places are gathered side by side when they are asked for, until one of them changes.

@@ -5,7 +5,7 @@
 #include <murtimeline/automation/date.h>
 #include <murtimeline/automation/export.h>
 
-namespace mur::qt {
+namespace mur {
 
 /// The window of world time that a control shows over its width.
 struct MUR_API VisibleRange {
@@ -66,4 +66,4 @@ class MUR_API ZoomTrail {
   VisibleRange mLast;
 };
 
-}  // namespace mur::qt
+}  // namespace mur

@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include <murtimeline/qt/visible_range.h>
+#include <murtimeline/render/visible_range.h>
 
-namespace mur::qt {
+namespace mur {
 namespace {
 
 constexpr double kStartDuration = 3600;
@@ -81,4 +81,4 @@ double ZoomTrail::DurationOf(int RungA) const {
   return mDuration * std::exp2(-static_cast<double>(RungA) / kStepsPerDoubling);
 }
 
-}  // namespace mur::qt
+}  // namespace mur

@@ -3,9 +3,9 @@
 
 #include <gmock/gmock.h>
 
-#include <murtimeline/qt/visible_range.h>
+#include <murtimeline/render/visible_range.h>
 
-namespace mur::qt {
+namespace mur {
 namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
@@ -113,4 +113,4 @@ TEST(ZoomTrail, AbsurdRangesCanBeLeftByZooming) {
 }
 
 }  // namespace
-}  // namespace mur::qt
+}  // namespace mur
