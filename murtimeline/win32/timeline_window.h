@@ -1,8 +1,10 @@
 #pragma once
 
 #include <functional>
-#include <memory>
+#include <optional>
+#include <string>
 
+#include <murtimeline/automation/object.h>
 #include <murtimeline/render/port/control_host.h>
 #include <murtimeline/render/timeline_render.h>
 #include <murtimeline/win32/platform.h>
@@ -11,19 +13,19 @@ namespace mur::win32 {
 
 /// What the container of a time line wants to be told. Each may be left empty; each may destroy the window.
 struct WindowEvents {
-  std::function<void()> FocusTaken;    ///< the keyboard came to one of its windows from elsewhere
-  std::function<void()> FocusLost;     ///< and went
-  std::function<void()> Pressed;       ///< a mouse button went down, before anything hears of that
-  std::function<void()> ViewChanged;   ///< something must be painted again, shown or not
-  std::function<void()> Destroyed;     ///< the window has gone, by whomever
+  std::function<void()> FocusTaken;   ///< the keyboard came to one of its windows from elsewhere
+  std::function<void()> FocusLost;    ///< and went
+  std::function<void()> Pressed;      ///< a mouse button went down, before anything hears of that
+  std::function<void()> ViewChanged;  ///< something must be painted again, shown or not
+  std::function<void()> Destroyed;    ///< the window has gone, by whomever
 };
 
 /// What a container says about how things look and are to be used.
 struct Ambience {
-  std::wstring fontFace;       ///< empty: the system's message font
-  bool userMode = true;        ///< false at design time: the mouse does nothing then
-  std::string localeName;      ///< "de-DE"; empty: the user's own region
-  bool rightToLeft = false;
+  std::wstring fontFace;     ///< empty: the system's message font
+  bool userMode = true;      ///< false at design time: the mouse does nothing then
+  std::string localeName;    ///< "de-DE"; kept only: texts follow the user's own region everywhere
+  bool rightToLeft = false;  ///< of texts; time always goes from left to right
   friend bool operator==(const Ambience&, const Ambience&) = default;
 };
 
@@ -38,6 +40,8 @@ class TimelineWindow final : public ControlHost {
 
   /// The control that was made with this host. Called once, before anything else.
   void Attach(MURTimelineRender& ControlA);
+  /// The control goes. Nothing is called any more, and the window is destroyed.
+  void Detach();
   WindowEvents& Events();
 
   /// Creates the window as a child of another one; the place is in device pixels of that. False when the
@@ -49,6 +53,8 @@ class TimelineWindow final : public ControlHost {
   void Place(const RECT& PlaceA);
   /// Device pixels of the window's monitor (or of the screen, without a window) to a logical pixel.
   double ScaleFactor() const;
+  /// Uses another factor in place of the monitor's; none for that again.
+  void SetScaleFactor(std::optional<double> FactorA);
   /// The size without a window, in device pixels at ScaleFactor.
   void SetSize(SIZE SizeA);
   SIZE Size() const;
@@ -72,7 +78,7 @@ class TimelineWindow final : public ControlHost {
 
  private:
   struct Parts;
-  std::unique_ptr<Parts> mParts;
+  Ref<Parts> mParts;
 };
 
 }  // namespace mur::win32
