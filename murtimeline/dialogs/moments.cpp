@@ -9,22 +9,21 @@ namespace {
 
 constexpr double kMillisecondsPerDay = kSecondsPerDay * 1000;
 
-struct Clock {
-  double day;
-  double seconds;  // whole ones of the day
-};
+}  // namespace
 
-// A time that was meant as a whole second may lie a few microseconds before it, so what is dropped is what a
-// clock of milliseconds shows.
-Clock ClockOf(Date ValueA) {
-  const double days = Date::FromDays(ValueA.Days()).Days();
+// A time that was meant as a whole second may lie a few microseconds before it.
+ClockReading ReadClock(Date MomentA) {
+  const double days = Date::FromDays(MomentA.Days()).Days();
   const double day = std::trunc(days);
   const double milliseconds = std::floor(std::fabs(days - day) * kMillisecondsPerDay + 0.5);
   if (milliseconds >= kMillisecondsPerDay) return {day + 1, 0};
-  return {day, std::floor(milliseconds / 1000)};
+  return {day, milliseconds};
 }
 
-}  // namespace
+Date MomentOf(const ClockReading& ReadingA) {
+  const double time = ReadingA.milliseconds / kMillisecondsPerDay;
+  return Date::Unchecked(ReadingA.day < 0 ? ReadingA.day - time : ReadingA.day + time);
+}
 
 String MomentText(Date DayA, Date TimeA) {
   String text;
@@ -36,7 +35,8 @@ String MomentText(Date DayA, Date TimeA) {
 }
 
 Date ComposeMoment(Date DayA, Date TimeA) {
-  return Date::FromDays(ClockOf(DayA).day + ClockOf(TimeA).seconds / kSecondsPerDay);
+  const double seconds = std::floor(ReadClock(TimeA).milliseconds / 1000);
+  return Date::FromDays(ReadClock(DayA).day + seconds / kSecondsPerDay);
 }
 
 }  // namespace mur

@@ -14,4 +14,16 @@ String MomentText(Date DayA, Date TimeA);
 /// outside the date range.
 Date ComposeMoment(Date DayA, Date TimeA);
 
+/// A moment as a calendar and a clock show it. The clock counts forward before the day zero, too.
+struct ClockReading {
+  double day = 0;           ///< whole days since 30 December 1899
+  double milliseconds = 0;  ///< whole ones of the day
+};
+
+/// Throws Overflow outside the date range.
+ClockReading ReadClock(Date MomentA);
+
+/// The moment that a calendar and a clock show so.
+Date MomentOf(const ClockReading& ReadingA);
+
 }  // namespace mur
