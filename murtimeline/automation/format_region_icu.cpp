@@ -8,7 +8,7 @@
 #include <unicode/localebuilder.h>
 #include <unicode/smpdtfmt.h>
 
-#include <murtimeline/automation/format_cldr_pattern.h>
+#include <murtimeline/automation/format_picture.h>
 #include <murtimeline/automation/format_region_icu.h>
 #include <murtimeline/automation/narrow.h>
 
@@ -89,8 +89,8 @@ void LoadDatePatterns(Region& RegionA, const icu::Locale& LocaleA) {
   RegionA.shortDate = FromCldrPattern(date);
   RegionA.longDate = FromCldrPattern(longDate);
   RegionA.longTime = FromCldrPattern(time);
-  RegionA.dateSeparator = CldrSeparator(date, RegionA.dateSeparator);
-  RegionA.timeSeparator = CldrSeparator(time, RegionA.timeSeparator);
+  RegionA.dateSeparator = PictureSeparator(date, RegionA.dateSeparator);
+  RegionA.timeSeparator = PictureSeparator(time, RegionA.timeSeparator);
 }
 
 // A narrow no-break space between digits becomes the no-break space that older texts have.

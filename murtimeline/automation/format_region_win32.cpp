@@ -4,7 +4,7 @@
 
 #include <windows.h>
 
-#include <murtimeline/automation/format_cldr_pattern.h>
+#include <murtimeline/automation/format_picture.h>
 #include <murtimeline/automation/format_region_win32.h>
 
 namespace mur {
@@ -50,7 +50,7 @@ class LocaleData {
   // Names that the platform numbers one after the other.
   template <std::size_t Count>
   void TakeNames(std::array<String, Count>& NamesA, LCTYPE FirstA) const {
-    for (String& name : NamesA) name = Text(FirstA++);
+    for (String& name : NamesA) name = PlainText(Text(FirstA++));
   }
 
  private:
@@ -68,13 +68,15 @@ void LoadDates(Region& RegionA, const LocaleData& DataA) {
   DataA.TakeNames(RegionA.shortMonthNames, LOCALE_SABBREVMONTHNAME1);
   TakeDayNames(RegionA.dayNames, DataA, LOCALE_SDAYNAME1);
   TakeDayNames(RegionA.shortDayNames, DataA, LOCALE_SABBREVDAYNAME1);
-  RegionA.amText = DataA.Text(LOCALE_S1159);
-  RegionA.pmText = DataA.Text(LOCALE_S2359);
-  RegionA.dateSeparator = DataA.Text(LOCALE_SDATE);
-  RegionA.timeSeparator = DataA.Text(LOCALE_STIME);
-  RegionA.shortDate = FromWindowsPicture(DataA.Text(LOCALE_SSHORTDATE));
+  RegionA.amText = PlainText(DataA.Text(LOCALE_S1159));
+  RegionA.pmText = PlainText(DataA.Text(LOCALE_S2359));
+  const String date = DataA.Text(LOCALE_SSHORTDATE);
+  const String time = DataA.Text(LOCALE_STIMEFORMAT);
+  RegionA.shortDate = FromWindowsPicture(date);
   RegionA.longDate = FromWindowsPicture(DataA.Text(LOCALE_SLONGDATE));
-  RegionA.longTime = FromWindowsPicture(DataA.Text(LOCALE_STIMEFORMAT));
+  RegionA.longTime = FromWindowsPicture(time);
+  RegionA.dateSeparator = PictureSeparator(date, RegionA.dateSeparator);
+  RegionA.timeSeparator = PictureSeparator(time, RegionA.timeSeparator);
 }
 
 // Sizes of groups from the decimal separator on, as in "3;0" or "3;2;0"; a 0 repeats what stands before it.

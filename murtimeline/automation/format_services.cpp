@@ -48,7 +48,6 @@ String FormatServices::NumberToText(double ValueA) const {
 String FormatServices::DefaultText(const Variant& ValueA) const {
   if (const String* text = ValueA.As<String>()) return *text;
   if (const Date* date = ValueA.As<Date>()) return DateToText(*date);
-  if (const double* number = ValueA.As<double>()) return NumberToText(*number);
   if (const bool* truth = ValueA.As<bool>()) return *truth ? u"True" : u"False";
   const auto number = ValueA.Number();
   if (!number) return {};

@@ -12,9 +12,9 @@ namespace mur {
 
 /// Texts that depend on the user's region: the automation runtime's Format and default conversions.
 ///
-/// One implementation stands on ICU, one on the Windows automation library; the build chooses. All of them
-/// pass the vectors of tests/automation/format_vectors.txt. An object of this class may be used by several
-/// threads at once.
+/// The build chooses the implementation: the portable engine with the data of ICU, or with that of Windows,
+/// which also writes the regional dates itself. Both pass the vectors of tests/automation/format_vectors.txt.
+/// An object of this class may be used by several threads at once.
 class MUR_API RegionalServices {
  public:
   virtual ~RegionalServices();

@@ -1,26 +1,18 @@
 #include <array>
-#include <cmath>
 #include <memory>
 
 #include <windows.h>
 
 #include <murtimeline/automation/error.h>
+#include <murtimeline/automation/format_picture.h>
 #include <murtimeline/automation/format_region_win32.h>
 #include <murtimeline/automation/format_services.h>
+#include <murtimeline/automation/narrow.h>
 
 namespace mur {
 namespace {
 
-// The text that a function of the automation library answers with.
-template <class Function>
-String TextFrom(Function FunctionA) {
-  BSTR text = nullptr;
-  if (FAILED(FunctionA(&text))) throw AutomationError(ErrorCode::InvalidProcedureCall);
-  const std::unique_ptr<OLECHAR, decltype(&SysFreeString)> owner(text, SysFreeString);
-  return String(text, text + SysStringLen(text));
-}
-
-// Whole seconds: the library would round, but not everywhere in one way.
+// Whole seconds: the platform would round, but not everywhere in one way.
 DATE TimeOf(const Moment& MomentA) {
   return ((MomentA.hour * 60 + MomentA.minute) * 60 + MomentA.second) / kSecondsPerDay;
 }
@@ -30,9 +22,9 @@ DATE DaysOf(const Moment& MomentA) {
   return MomentA.dayNumber < 0 ? MomentA.dayNumber - time : MomentA.dayNumber + time;
 }
 
-// The automation library converts to text and writes the regional date formats, which may follow other
-// calendars and inflect the names of months. User-defined formats are the portable engine's: some systems
-// write a text of more than 255 units past the end of their memory, and 1E+300 by "0.00" is one.
+// The platform writes dates as the region has them, which may follow other calendars and inflect the names of
+// months. User-defined formats are the portable engine's: the platform's Format writes a text of more than
+// 255 units past the end of its memory on some systems, and 1E+300 by "0.00" is one.
 class PlatformServices final : public FormatServices {
  public:
   explicit PlatformServices(LCID LocaleA) : FormatServices(LoadRegion(LocaleA)), mLocale(LocaleA) {}
@@ -45,11 +37,6 @@ class PlatformServices final : public FormatServices {
   }
 
   String DateToText(Date ValueA) const override { return GeneralDate(MomentOf(ValueA)); }
-
-  String NumberToText(double ValueA) const override {
-    if (!std::isfinite(ValueA)) return FormatServices::NumberToText(ValueA);
-    return TextFrom([&](BSTR* text) { return VarBstrFromR8(ValueA, mLocale, 0, text); });
-  }
 
  private:
   struct RegionalFormat {
@@ -68,25 +55,30 @@ class PlatformServices final : public FormatServices {
   }
 
   String GeneralDate(const Moment& MomentA) const { return DateText(DaysOf(MomentA), 0); }
-  String ShortDate(const Moment& MomentA) const { return DateText(DaysOf(MomentA), VAR_DATEVALUEONLY); }
+  String LongDate(const Moment& MomentA) const { return DayText(MomentA, DATE_LONGDATE, u"dddddd"); }
+  String ShortDate(const Moment& MomentA) const { return DayText(MomentA, DATE_SHORTDATE, u"ddddd"); }
   // Without its day, whose midnight some systems leave empty.
   String LongTime(const Moment& MomentA) const { return DateText(TimeOf(MomentA), VAR_TIMEVALUEONLY); }
 
-  String LongDate(const Moment& MomentA) const {
-    wchar_t name[] = L"Long Date";
-    std::array<BYTE, 256> tokens{};
-    VARIANT date{};
-    date.vt = VT_DATE;
-    date.date = DaysOf(MomentA);
-    return TextFrom([&](BSTR* text) {
-      const HRESULT result = VarTokenizeFormatString(name, tokens.data(), static_cast<int>(tokens.size()), 0,
-                                                     0, mLocale, nullptr);
-      return FAILED(result) ? result : VarFormatFromTokens(&date, name, tokens.data(), 0, text, mLocale);
-    });
+  // The platform's calendar starts in 1601; days before are the engine's.
+  String DayText(const Moment& MomentA, DWORD FormatA, StringView PatternA) const {
+    SYSTEMTIME day{};
+    day.wYear = Narrow<WORD>(MomentA.year);
+    day.wMonth = Narrow<WORD>(MomentA.month);
+    day.wDay = Narrow<WORD>(MomentA.day);
+    std::array<wchar_t, 256> text;
+    const int size =
+        GetDateFormatW(mLocale, FormatA, &day, nullptr, text.data(), static_cast<int>(text.size()));
+    if (size == 0) return FormatServices::Format(Date::Unchecked(DaysOf(MomentA)), PatternA);
+    return PlainText(String(text.data(), text.data() + size - 1));
   }
 
   String DateText(DATE DaysA, ULONG FlagsA) const {
-    return TextFrom([&](BSTR* text) { return VarBstrFromDate(DaysA, mLocale, FlagsA, text); });
+    BSTR text = nullptr;
+    if (FAILED(VarBstrFromDate(DaysA, mLocale, FlagsA, &text)))
+      throw AutomationError(ErrorCode::InvalidProcedureCall);
+    const std::unique_ptr<OLECHAR, decltype(&SysFreeString)> owner(text, SysFreeString);
+    return PlainText(String(text, text + SysStringLen(text)));
   }
 
   const LCID mLocale;

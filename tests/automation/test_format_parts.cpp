@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <murtimeline/automation/case_folding.h>
-#include <murtimeline/automation/format_cldr_pattern.h>
 #include <murtimeline/automation/format_letter_case.h>
 #include <murtimeline/automation/format_number.h>
 #include <murtimeline/automation/format_pattern.h>
 #include <murtimeline/automation/format_pattern_cache.h>
+#include <murtimeline/automation/format_picture.h>
 #include <murtimeline/automation/format_value.h>
 
 namespace mur {
@@ -132,14 +132,26 @@ TEST(CldrPattern, LeavesUnknownFieldsAndTheirSpaceOut) {
   EXPECT_EQ(FromCldrPattern(u"HH:mm zzzz"), u"hh\\:nn\\ ");
 }
 
+TEST(WindowsPicture, BecomesAPatternOfTheEngine) {
+  EXPECT_EQ(FromWindowsPicture(u"dddd, MMMM d, yyyy"), u"dddd\\,\\ mmmm\\ d\\,\\ yyyy");
+  EXPECT_EQ(FromWindowsPicture(u"h:mm:ss tt"), u"h\\:nn\\:ss\\ AMPM");
+  EXPECT_EQ(FromWindowsPicture(u"d. MMM 'kl' HH"), u"d\\.\\ mmm\\ \\k\\l\\ hh");
+}
+
+TEST(WindowsPicture, KeepsTheLengthOfYearsAndLeavesErasOut) {
+  EXPECT_EQ(FromWindowsPicture(u"M/d/yy"), u"m\\/d\\/yy");
+  EXPECT_EQ(FromWindowsPicture(u"y-yyy"), u"yy\\-yyyy");
+  EXPECT_EQ(FromWindowsPicture(u"d/M/yyyy gg"), u"d\\/m\\/yyyy\\ ");
+}
+
 TEST(CldrPattern, ShowsItsFirstSeparator) {
-  EXPECT_EQ(CldrSeparator(u"dd.MM.yy", u"/"), u".");
-  EXPECT_EQ(CldrSeparator(u"yy. M. d.", u"/"), u".");
-  EXPECT_EQ(CldrSeparator(u"d\u200F/M", u"-"), u"/");
-  EXPECT_EQ(CldrSeparator(u"HH 'h' mm", u":"), u":");
-  EXPECT_EQ(CldrSeparator(u"d M", u"/"), u"/");
-  EXPECT_EQ(CldrSeparator(u"dd.", u"/"), u"/");
-  EXPECT_EQ(CldrSeparator(u"--", u"/"), u"/");
+  EXPECT_EQ(PictureSeparator(u"dd.MM.yy", u"/"), u".");
+  EXPECT_EQ(PictureSeparator(u"yy. M. d.", u"/"), u".");
+  EXPECT_EQ(PictureSeparator(u"d\u200F/M", u"-"), u"/");
+  EXPECT_EQ(PictureSeparator(u"HH 'h' mm", u":"), u":");
+  EXPECT_EQ(PictureSeparator(u"d M", u"/"), u"/");
+  EXPECT_EQ(PictureSeparator(u"dd.", u"/"), u"/");
+  EXPECT_EQ(PictureSeparator(u"--", u"/"), u"/");
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <vector>
 
-#include <murtimeline/automation/format_cldr_pattern.h>
 #include <murtimeline/automation/format_pattern.h>
+#include <murtimeline/automation/format_picture.h>
 
 namespace mur {
 namespace {
@@ -141,7 +141,7 @@ String FromWindowsPicture(StringView PictureA) {
   return Translated(PlainText(PictureA), WindowsPlaceholder);
 }
 
-String CldrSeparator(StringView PatternA, StringView OtherwiseA) {
+String PictureSeparator(StringView PatternA, StringView OtherwiseA) {
   const std::vector<Item> items = Itemize(PlainText(PatternA));
   const auto isField = [](const Item& item) { return item.isField; };
   const auto first = std::find_if(items.begin(), items.end(), isField);

@@ -18,8 +18,8 @@ String FromCldrPattern(StringView PatternA);
 /// their length.
 String FromWindowsPicture(StringView PictureA);
 
-/// What stands between the first two fields of a pattern of the Unicode locale data, without spaces;
+/// What stands between the first two fields of either kind of pattern, without spaces;
 /// `OtherwiseA` when nothing does or a word ("06 h 00").
-String CldrSeparator(StringView PatternA, StringView OtherwiseA);
+String PictureSeparator(StringView PatternA, StringView OtherwiseA);
 
 }  // namespace mur
