@@ -21,6 +21,7 @@ std::optional<double> Variant::Number() const noexcept {
         if constexpr (std::is_same_v<T, bool>) return value ? -1.0 : 0.0;
         if constexpr (std::is_arithmetic_v<T>) return static_cast<double>(value);
         if constexpr (std::is_same_v<T, Date>) return value.Days();
+        if constexpr (std::is_same_v<T, Ref<ForeignValue>>) return value ? value->Number() : std::nullopt;
         return std::nullopt;
       },
       mValue);

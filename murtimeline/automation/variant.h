@@ -14,7 +14,11 @@
 namespace mur {
 
 /// A value of a host platform that the core only carries and gives back unchanged (arrays, decimals, ...).
-class MUR_API ForeignValue : public Object {};
+class MUR_API ForeignValue : public Object {
+ public:
+  /// The number in it, where it is one (a decimal, a currency).
+  virtual std::optional<double> Number() const noexcept { return std::nullopt; }
+};
 
 /// The order is that of the alternatives in Variant's storage.
 enum class VariantKind {
@@ -70,7 +74,7 @@ class MUR_API Variant {
     return std::get_if<T>(&mValue);
   }
 
-  /// The number in a Boolean (true is -1), integer, floating or Date value; none for every other kind.
+  /// The number in a Boolean (true is -1), integer, floating, Date or foreign value; none for other kinds.
   std::optional<double> Number() const noexcept;
 
   friend bool operator==(const Variant&, const Variant&) = default;

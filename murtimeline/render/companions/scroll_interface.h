@@ -16,6 +16,8 @@ namespace mur {
 class MUR_API ITimeScaleMarker : public Object {
  public:
   virtual String Key() const = 0;
+  /// Whether it is still on a scale; a record may be kept beyond its removal.
+  virtual bool OnScale() const { return true; }
   virtual String Caption() const = 0;
   virtual void SetCaption(StringView CaptionA) = 0;
   virtual Date WorldTime() const = 0;

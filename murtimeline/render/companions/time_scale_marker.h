@@ -29,6 +29,7 @@ class MUR_API TimeScaleMarker final : public ITimeScaleMarker {
   const MarkerPlace& Place() const noexcept { return mPlace; }
 
   String Key() const override { return mKey; }
+  bool OnScale() const override { return static_cast<bool>(mBoard); }
   String Caption() const override { return mCaption; }
   void SetCaption(StringView CaptionA) override;
   Date WorldTime() const override { return mWorldTime; }

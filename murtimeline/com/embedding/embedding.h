@@ -1,0 +1,27 @@
+#pragma once
+
+#include <murtimeline/com/contract.h>
+#include <murtimeline/render/timeline_render.h>
+#include <murtimeline/win32/timeline_window.h>
+
+namespace mur::com {
+
+/// What containers want of a control beyond its own members: to be embedded, activated in place, drawn, and
+/// asked for its state.
+class Embedding {
+ public:
+  /// All of these outlive this object; `ControlA` is the identity of the whole.
+  Embedding(IUnknown& IdentityA, MURTimelineRender& ControlA, win32::TimelineWindow& WindowA);
+  ~Embedding();
+  Embedding(const Embedding&) = delete;
+  Embedding& operator=(const Embedding&) = delete;
+
+  /// The interface of that type, not counted; none when there is none.
+  IUnknown* Find(REFIID InterfaceA) noexcept;
+
+ private:
+  struct Parts;
+  const std::unique_ptr<Parts> mParts;
+};
+
+}  // namespace mur::com
