@@ -22,6 +22,10 @@ TEST(CaseFolding, TellsWhichTextsAreEqualButForTheirCase) {
       {u"\u0416", u"\u0436", true},          // Cyrillic
       {u"\u03A3", u"\u03C3", true},          // Greek
       {u"\U00010400", u"\U00010428", true},  // beyond 16 bits
+      {u"\u212A", u"k", true},               // the sign of the kelvin
+      {u"\u01C5", u"\u01C6", true},          // a letter with a title case
+      {u"\u03C2", u"\u03A3", true},          // a small letter at the end of a word
+      {u"\u0131", u"I", false},              // dotless
       {u"stra\u00DFe", u"STRASSE", false},   // code point by code point
       {{u'a', u'\0', u'b'}, {u'A', u'\0', u'B'}, true},
       {{u'a', u'\0', u'b'}, {u'A', u'\0', u'C'}, false},
