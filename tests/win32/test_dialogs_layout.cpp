@@ -153,6 +153,32 @@ TEST(DialogLayout, LeavesNoRoomForButtonsThatAreHidden) {
   EXPECT_EQ(leftOf(1), last);
 }
 
+LRESULT CALLBACK CountColorChanges(HWND window, UINT message, WPARAM word, LPARAM data, UINT_PTR /*id*/,
+                                   DWORD_PTR count) {
+  if (message == WM_SYSCOLORCHANGE) ++*reinterpret_cast<int*>(count);
+  return DefSubclassProc(window, message, word, data);
+}
+
+TEST(DialogLayout, TellsItsControlsOfOtherColors) {
+  DateTimeForm form(Module(), nullptr);
+  const HWND calendar = GetDlgItem(form.Handle(), date_time_id::kDate);
+  int changes = 0;
+  SetWindowSubclass(calendar, CountColorChanges, 0, reinterpret_cast<DWORD_PTR>(&changes));
+  SendMessageW(form.Handle(), WM_SYSCOLORCHANGE, 0, 0);
+  EXPECT_EQ(changes, 1);
+  RemoveWindowSubclass(calendar, CountColorChanges, 0);
+}
+
+TEST(DialogLayout, MovesToThePlaceThatTheSystemSuggestsForAnotherResolution) {
+  EditTimesForm form(Module(), nullptr);
+  const RECT suggested{40, 30, 41, 31};
+  SendMessageW(form.Handle(), WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&suggested));
+  RECT place{};
+  GetWindowRect(form.Handle(), &place);
+  EXPECT_EQ(place.left, 40);
+  EXPECT_EQ(place.top, 30);
+}
+
 TEST(DialogLayout, ScalesWithTheResolutionOfItsMonitor) {
   EditTimesForm form(Module(), nullptr);
   const auto iconWidth = [&] {

@@ -7,7 +7,7 @@ namespace {
 
 using namespace date_time_id;
 
-constexpr int kGap = 8, kMomentGap = 24;  // logical pixels
+constexpr int kGap = 8, kRowGap = 12, kMomentGap = 24;  // logical pixels
 
 int Middle(int TopA, LONG RowA, LONG ExtentA) {
   return TopA + static_cast<int>(RowA - ExtentA) / 2;
@@ -62,7 +62,7 @@ SIZE DateTimeForm::MeasureFields() const {
   const SIZE date = mDate.Measure(), time = mTime.Measure();
   const LONG caption = controls.MeasureText(kTimeCaption).cx + controls.Scaled(kGap);
   const LONG moment = controls.MeasureText(kMoment).cx + controls.Scaled(kMomentGap);
-  return {std::max(date.cx, caption + time.cx + moment), date.cy + controls.Scaled(kGap) + time.cy};
+  return {std::max(date.cx, caption + time.cx + moment), date.cy + controls.Scaled(kRowGap) + time.cy};
 }
 
 // The calendar stands in the middle; below it the time at the left and the whole moment at the right.
@@ -73,7 +73,7 @@ void DateTimeForm::PlaceFields(const RECT& PlaceA) {
   const int spare = static_cast<int>(PlaceA.right - PlaceA.left - date.cx);
   controls.Place(kDate, left + spare / 2, top, date);
 
-  const int row = top + static_cast<int>(date.cy) + controls.Scaled(kGap);
+  const int row = top + static_cast<int>(date.cy) + controls.Scaled(kRowGap);
   const SIZE caption = controls.MeasureText(kTimeCaption), moment = controls.MeasureText(kMoment);
   controls.Place(kTimeCaption, left, Middle(row, time.cy, caption.cy), caption);
   controls.Place(kTime, left + static_cast<int>(caption.cx) + controls.Scaled(kGap), row, time);

@@ -29,6 +29,10 @@ HWND DialogControls::Add(int IdA, const ControlKind& KindA, StringView TextA) {
   return control;
 }
 
+void DialogControls::Forward(UINT MessageA, WPARAM WordA, LPARAM LongA) const {
+  for (const auto& [id, text] : mTexts) SendMessageW(Window(id), MessageA, WordA, LongA);
+}
+
 const String& DialogControls::Text(int IdA) const {
   return mTexts.at(IdA);
 }
@@ -64,8 +68,8 @@ SIZE DialogControls::Measure(int IdA, StringView TextA, int WidthA) const {
 }
 
 int DialogControls::FieldHeight(int IdA) const {
-  constexpr int kAir = 8;
-  return LineHeight(IdA) + Scaled(kAir);
+  constexpr int kAir = 4, kFrame = 4;  // frames have the same width at every scale
+  return LineHeight(IdA) + Scaled(kAir) + kFrame;
 }
 
 SIZE DialogControls::ButtonSize(int IdA) const {

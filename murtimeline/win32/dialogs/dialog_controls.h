@@ -32,6 +32,9 @@ class DialogControls {
   HWND Add(int IdA, const ControlKind& KindA, StringView TextA = {});
   HWND Window(int IdA) const { return GetDlgItem(mDialog, IdA); }
 
+  /// Hands a message on to all of them.
+  void Forward(UINT MessageA, WPARAM WordA, LPARAM LongA) const;
+
   /// What was written, which the control itself need not be able to hold.
   const String& Text(int IdA) const;
   void SetText(int IdA, StringView TextA);

@@ -63,8 +63,7 @@ void DialogWindow::Complete() {
   mControls.Add(kFieldPanel, kPanel);
   SetWindowLongPtrW(mHandle, DWLP_USER, reinterpret_cast<LONG_PTR>(this));
   const HWND owner = GetWindow(mHandle, GW_OWNER);
-  mControls.SetScale(ScaleFactorOf(owner ? owner : mHandle), kTitle);
-  LayOut();
+  SetScale(ScaleFactorOf(owner ? owner : mHandle));
 }
 
 void DialogWindow::RequireWindow() const {
@@ -188,9 +187,12 @@ INT_PTR DialogWindow::OnMessage(UINT MessageA, WPARAM WordA, LPARAM LongA) {
       DrawIconBox(*reinterpret_cast<const DRAWITEMSTRUCT*>(LongA));
       return TRUE;
     case WM_DPICHANGED:
-      OnScale(static_cast<double>(HIWORD(WordA)) / USER_DEFAULT_SCREEN_DPI,
-              *reinterpret_cast<const RECT*>(LongA));
+      OnResolution(HIWORD(WordA), *reinterpret_cast<const RECT*>(LongA));
       return TRUE;
+    case WM_SYSCOLORCHANGE:
+      // Only the windows at the top are told.
+      mControls.Forward(MessageA, WordA, LongA);
+      return FALSE;
     case WM_DESTROY:
       EndLoop();
       return FALSE;

@@ -72,7 +72,7 @@ class DialogWindow : public IDialogWindow {
   INT_PTR OnMessage(UINT MessageA, WPARAM WordA, LPARAM LongA);
   void OnCommand(int IdA);
   INT_PTR OnColor(HDC DeviceA, HWND ControlA) const;
-  void OnScale(double ScaleA, const RECT& PlaceA);
+  void OnResolution(UINT DpiA, const RECT& PlaceA);
   void DrawIconBox(const DRAWITEMSTRUCT& DrawingA) const;
   void PressSystem(int IdA);
   void Close(UnloadRequest RequestA);
@@ -86,14 +86,17 @@ class DialogWindow : public IDialogWindow {
   int HeaderTextLeft() const;
   int PlaceHeader(int WidthA);
   void PlaceSystem(int RightA, int TopA);
+  void SetScale(double ScaleA);
   void LayOut();
   void ResizeClient(SIZE SizeA);
+  void MoveTo(POINT PlaceA);
   void Centre();
 
   HWND mHandle;
   DialogControls mControls;
   WindowForms mForms;
   WindowIcon mIcon;
+  UniqueIcon mBoxIcon;         // in the header
   ModalLoop* mLoop = nullptr;  // while it is shown
   int mCancelId = 0;
   int mWidth = 0;  // of the client area; grows with the texts

@@ -132,16 +132,26 @@ void DialogWindow::Centre() {
   RECT window{}, over = workArea;
   GetWindowRect(mHandle, &window);
   if (owner && IsWindowVisible(owner) && !IsIconic(owner)) GetWindowRect(owner, &over);
-  const POINT place = CentredPlace(over, workArea, WidthOf(window), HeightOf(window));
-  SetWindowPos(mHandle, nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  MoveTo(CentredPlace(over, workArea, WidthOf(window), HeightOf(window)));
 }
 
-void DialogWindow::OnScale(double ScaleA, const RECT& PlaceA) {
-  SetWindowPos(mHandle, nullptr, PlaceA.left, PlaceA.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+void DialogWindow::MoveTo(POINT PlaceA) {
+  SetWindowPos(mHandle, nullptr, static_cast<int>(PlaceA.x), static_cast<int>(PlaceA.y), 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void DialogWindow::SetScale(double ScaleA) {
   mControls.SetScale(ScaleA, kTitle);
+  mBoxIcon = mIcon.Sized(mControls.Scaled(kIconExtent));
   mWidth = 0;
   LayOut();
   RedrawWindow(mHandle, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+// The place is the one that the system suggests; the size is our own.
+void DialogWindow::OnResolution(UINT DpiA, const RECT& PlaceA) {
+  MoveTo({PlaceA.left, PlaceA.top});
+  SetScale(static_cast<double>(DpiA) / USER_DEFAULT_SCREEN_DPI);
 }
 
 // The header stands out from the panel like a page.
@@ -156,7 +166,7 @@ INT_PTR DialogWindow::OnColor(HDC DeviceA, HWND ControlA) const {
 void DialogWindow::DrawIconBox(const DRAWITEMSTRUCT& DrawingA) const {
   const RECT& place = DrawingA.rcItem;
   FillRect(DrawingA.hDC, &place, GetSysColorBrush(COLOR_WINDOW));
-  DrawIconEx(DrawingA.hDC, static_cast<int>(place.left), static_cast<int>(place.top), mIcon.Get(),
+  DrawIconEx(DrawingA.hDC, static_cast<int>(place.left), static_cast<int>(place.top), mBoxIcon.Get(),
              WidthOf(place), HeightOf(place), 0, nullptr, DI_NORMAL);
 }
 

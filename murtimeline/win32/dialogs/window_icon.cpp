@@ -8,7 +8,6 @@
 namespace mur::win32 {
 namespace {
 
-constexpr int kExtent = 64;   // device pixels; drawn smaller as it is needed
 constexpr double kGrid = 16;  // units of the drawing
 constexpr int kSamples = 4;   // a pixel, across and down
 
@@ -31,12 +30,12 @@ constexpr std::array kBoxes = {
 };
 
 // The mean of a pixel's samples, with the share that is covered as its alpha.
-std::uint32_t PixelAt(int ColumnA, int RowA) {
+std::uint32_t PixelAt(int ColumnA, int RowA, int ExtentA) {
   constexpr std::uint32_t kAll = kSamples * kSamples;
   std::uint32_t red = 0, green = 0, blue = 0, covered = 0;
   for (int sample = 0; sample < kSamples * kSamples; ++sample) {
-    const double x = (ColumnA + (sample % kSamples + 0.5) / kSamples) * kGrid / kExtent;
-    const double y = (RowA + (sample / kSamples + 0.5) / kSamples) * kGrid / kExtent;
+    const double x = (ColumnA + (sample % kSamples + 0.5) / kSamples) * kGrid / ExtentA;
+    const double y = (RowA + (sample / kSamples + 0.5) / kSamples) * kGrid / ExtentA;
     const auto box = std::ranges::find_if(kBoxes, [&](const Box& one) { return one.Covers(x, y); });
     if (box == kBoxes.end()) continue;
     red += box->color >> 16 & 0xff;
@@ -48,13 +47,13 @@ std::uint32_t PixelAt(int ColumnA, int RowA) {
   return covered * 255 / kAll << 24 | red / covered << 16 | green / covered << 8 | blue / covered;
 }
 
-UniqueIcon DrawnIcon() {
-  std::vector<std::uint32_t> pixels(kExtent * kExtent);
-  for (int place = 0; place < kExtent * kExtent; ++place)
-    pixels[static_cast<std::size_t>(place)] = PixelAt(place % kExtent, place / kExtent);
-  const std::vector<std::uint8_t> unmasked(kExtent * kExtent / 8);
-  const UniqueBitmap colors(CreateBitmap(kExtent, kExtent, 1, 32, pixels.data()));
-  const UniqueBitmap mask(CreateBitmap(kExtent, kExtent, 1, 1, unmasked.data()));
+UniqueIcon DrawnIcon(int ExtentA) {
+  std::vector<std::uint32_t> pixels;
+  for (int row = 0; row < ExtentA; ++row)
+    for (int column = 0; column < ExtentA; ++column) pixels.push_back(PixelAt(column, row, ExtentA));
+  const std::vector<std::uint8_t> unmasked(pixels.size());  // more than its rows of bits take
+  const UniqueBitmap colors(CreateBitmap(ExtentA, ExtentA, 1, 32, pixels.data()));
+  const UniqueBitmap mask(CreateBitmap(ExtentA, ExtentA, 1, 1, unmasked.data()));
   ICONINFO icon{TRUE, 0, 0, mask.Get(), colors.Get()};
   return UniqueIcon(CreateIconIndirect(&icon));
 }
@@ -74,8 +73,14 @@ HICON IconOf(HWND WindowA) {
 
 }  // namespace
 
-WindowIcon::WindowIcon(HWND OwnerA) : mShared(IconOf(OwnerA)) {
-  if (!mShared) mOwn = DrawnIcon();
+WindowIcon::WindowIcon(HWND OwnerA) : mOwners(IconOf(OwnerA)) {
+  if (!mOwners) mDrawn = DrawnIcon(GetSystemMetrics(SM_CXICON));
+}
+
+UniqueIcon WindowIcon::Sized(int ExtentA) const {
+  if (mDrawn) return DrawnIcon(ExtentA);
+  const HANDLE copy = CopyImage(mOwners, IMAGE_ICON, ExtentA, ExtentA, LR_COPYFROMRESOURCE);
+  return UniqueIcon(static_cast<HICON>(copy));
 }
 
 }  // namespace mur::win32

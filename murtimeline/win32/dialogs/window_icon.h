@@ -11,11 +11,15 @@ using UniqueIcon = UniqueHandle<HICON, DestroyIcon>;
 class WindowIcon {
  public:
   explicit WindowIcon(HWND OwnerA);
-  HICON Get() const { return mOwn ? mOwn.Get() : mShared; }
+
+  /// As large as the system draws icons.
+  HICON Get() const { return mDrawn ? mDrawn.Get() : mOwners; }
+  /// Sharp at so many device pixels; none when the owner's icon has gone.
+  UniqueIcon Sized(int ExtentA) const;
 
  private:
-  HICON mShared;
-  UniqueIcon mOwn;
+  HICON mOwners;
+  UniqueIcon mDrawn;
 };
 
 }  // namespace mur::win32
