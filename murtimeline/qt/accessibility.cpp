@@ -1,11 +1,10 @@
 #include <murtimeline/qt/accessibility.h>
 #include <murtimeline/qt/conversions.h>
 #include <murtimeline/qt/event_guard.h>
+#include <murtimeline/render/companions/bar_list.h>
 
 namespace mur::qt {
 namespace {
-
-constexpr StringView kCursorKey = u"The Cursor";
 
 Accessibility::Listener listener = nullptr;
 
@@ -37,23 +36,18 @@ Accessibility::~Accessibility() {
 }
 
 int Accessibility::Count() const {
-  const std::size_t cursors = mContext.canvas.PositionOf(kCursorKey) > 0 ? 1 : 0;
-  return static_cast<int>(mContext.canvas.GraphicCount() - cursors);
+  return static_cast<int>(BarList(mContext.canvas).Count());
 }
 
 QAccessibleInterface* Accessibility::At(int IndexA) {
-  if (IndexA < 0 || IndexA >= Count()) return nullptr;
-  const auto cursor = static_cast<int>(mContext.canvas.PositionOf(kCursorKey));
-  const int position = IndexA + 1 + (cursor > 0 && IndexA + 1 >= cursor ? 1 : 0);
-  return Of(mContext.canvas.Graphic(Variant(position)));
+  return IndexA < 0 ? nullptr : Of(BarList(mContext.canvas).At(static_cast<std::size_t>(IndexA)));
 }
 
 int Accessibility::IndexOf(const QAccessibleInterface& BarA) const {
   const auto* bar = dynamic_cast<const AccessibleBar*>(&BarA);
   if (!bar || !bar->isValid()) return -1;
-  const std::size_t position = mContext.canvas.PositionOf(bar->Item()->Key());
-  const std::size_t cursor = mContext.canvas.PositionOf(kCursorKey);
-  return static_cast<int>(position) - 1 - (cursor > 0 && position > cursor ? 1 : 0);
+  const auto place = BarList(mContext.canvas).PlaceOf(*bar->Item());
+  return place ? static_cast<int>(*place) : -1;
 }
 
 QAccessibleInterface* Accessibility::AtPoint(QPoint GlobalA) {

@@ -1,39 +1,12 @@
 #include <murtimeline/automation/guard.h>
-#include <murtimeline/automation/regional.h>
 #include <murtimeline/qt/accessible_bar.h>
 #include <murtimeline/qt/conversions.h>
 #include <murtimeline/qt/event_guard.h>
+#include <murtimeline/render/bar_description.h>
+#include <murtimeline/render/companions/bar_list.h>
 #include <murtimeline/render/companions/item_gestures.h>
-#include <murtimeline/render/object_walks.h>
 
 namespace mur::qt {
-namespace {
-
-constexpr double kFramesPerSecond = 25.0;
-
-QString TimeText(const MURTimelineRender& ControlA, Date TimeA) {
-  const String format = ControlA.FormatString();
-  if (!format.empty()) return ToQString(Regional().Format(TimeA, format));
-  const Ref<ITimeText> service = ControlA.Collaborators().timeText;
-  return ToQString(service->FormatSeconds(TimeA.Seconds(), ControlA.FormatStyle(), kFramesPerSecond));
-}
-
-QString NameOf(const IMURTimelineObject& ObjectA) {
-  const QString tag = ToQString(ObjectA.Tag());
-  return tag.trimmed().isEmpty() ? ToQString(ObjectA.Key()) : tag;
-}
-
-// "06:00:00 to 06:01:30, in Picture": the last part names the track of what is in one.
-QString DescriptionOf(const MURTimelineRender& ControlA, const Ref<IMURTimelineObject>& ObjectA) {
-  const Date start = ObjectA->WorldTimeT0();
-  const Date end = Date::Unchecked(start.Days() + ObjectA->Duration() / kSecondsPerDay);
-  QString text = QWidget::tr("%1 to %2").arg(TimeText(ControlA, start), TimeText(ControlA, end));
-  const Ref<IMURTimelineObject> root = GetRootObject(ObjectA);
-  if (!(root == ObjectA)) text += QWidget::tr(", in %1").arg(NameOf(*root));
-  return text;
-}
-
-}  // namespace
 
 Ref<IMURTimelineObject> AccessibleBar::Object() const {
   const Ref<CMURTimeline> timeline = isValid() ? mContext.control.Timeline() : nullptr;
@@ -49,9 +22,9 @@ QString AccessibleBar::text(QAccessible::Text kind) const {
   ResumeNext([&] {
     const Ref<IMURTimelineObject> object = Object();
     if (!object) return;
-    if (kind == QAccessible::Name) text = NameOf(*object);
+    if (kind == QAccessible::Name) text = ToQString(BarName(*object));
     if (kind == QAccessible::Description || kind == QAccessible::Value)
-      text = DescriptionOf(mContext.control, object);
+      text = ToQString(BarDescription(mContext.control, object));
   });
   return text;
 }
@@ -69,13 +42,10 @@ QAccessible::State AccessibleBar::state() const {
   QAccessible::State state;
   state.invalid = !isValid();
   if (state.invalid) return state;
-  const RectF bounds = mContext.canvas.PixelBounds(*mItem), area = mContext.canvas.Area();
-  const bool isShown = bounds.left < area.width && bounds.Right() > 0 && bounds.top < area.height &&
-                       bounds.Bottom() > 0 && !bounds.IsEmpty();
   state.selectable = state.focusable = true;
   state.disabled = !mWidget->isEnabled();
   state.invisible = !mItem->Visible() || !mWidget->isVisible();
-  state.offscreen = !isShown;
+  state.offscreen = !BarList(mContext.canvas).IsInView(*mItem);
   state.selected = mContext.control.SelectedKey() == Variant(mItem->Key());
   state.focused = mWidget->hasFocus() && mContext.keyboard.Current() == mItem;
   return state;

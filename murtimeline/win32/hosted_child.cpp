@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <murtimeline/win32/hosted_child.h>
+#include <murtimeline/win32/listener.h>
 #include <murtimeline/win32/system_colors.h>
 
 namespace mur::win32 {
@@ -24,11 +25,6 @@ LPCWSTR NameOf(PointerShape ShapeA) {
     default:
       return IDC_ARROW;
   }
-}
-
-// By value: what is told may end the listener.
-void Tell(std::function<void()> ListenerA) {
-  if (ListenerA) ListenerA();
 }
 
 }  // namespace

@@ -2,14 +2,13 @@
 #include <utility>
 
 #include <murtimeline/automation/guard.h>
+#include <murtimeline/win32/accessible_timeline.h>
 #include <murtimeline/win32/dpi.h>
-#include <murtimeline/win32/keys.h>
+#include <murtimeline/win32/listener.h>
 #include <murtimeline/win32/timeline_window_parts.h>
 
 namespace mur::win32 {
 namespace {
-
-constexpr UINT kFollow = WM_USER + 1;
 
 // Keeps the windows' parts with a companion that may outlive them.
 class Keeper final : public HostFace {
@@ -20,15 +19,6 @@ class Keeper final : public HostFace {
   Ref<Object> mParts;
 };
 
-// By value: what is told may end the listener.
-void Tell(std::function<void()> ListenerA) {
-  if (ListenerA) ListenerA();
-}
-
-bool ChangesLooks(UINT IdA) {
-  return IdA == WM_SYSCOLORCHANGE || IdA == WM_SETTINGCHANGE || IdA == WM_THEMECHANGED;
-}
-
 }  // namespace
 
 TimelineWindow::Parts::Parts(HINSTANCE ModuleA)
@@ -38,6 +28,7 @@ TimelineWindow::Parts::Parts(HINSTANCE ModuleA)
           [this] { Tell(events.Destroyed); }),
       scaleWindow(ModuleA, *this, scaleHost, tools),
       canvasWindow(ModuleA, *this, canvasHost, tools),
+      drops(*this),
       forms(ModuleA) {
   constexpr float kScaleDesignHeight = 600;  // twips
   scaleHost.SetHeight(kScaleDesignHeight);
@@ -87,6 +78,12 @@ void TimelineWindow::Parts::ConnectCompanions() {
       [this](const Message& message) { return AnswerCanvas(message); },
       [this] { Pressed(); },
   });
+  ConnectKeyboard();
+  drops.Attach(canvas);
+  bars.emplace(AccessibleContext{*this, canvasWindow, canvasHost, *control, canvas, keyboard});
+}
+
+void TimelineWindow::Parts::ConnectKeyboard() {
   connections.push_back(canvas->ItemMouseDown.Connect(
       [this](const Ref<ICanvasItem>& item, auto&...) { keyboard->TakeUp(item); }));
   connections.push_back(
@@ -108,7 +105,13 @@ void TimelineWindow::Parts::Close() {
   frame.Destroy();
   ResumeNext([this] { canvasWindow.LosePointer(); });
   ResumeNext([this] { scaleWindow.LosePointer(); });
+  if (AccessibleTimeline* accessible = std::exchange(mAccessible, nullptr)) {
+    accessible->Disconnect();
+    accessible->Release();
+  }
+  bars.reset();
   keyboard = {};
+  drops.Attach({});
   rows.Attach({});
   scroller = {};
   canvas = {};
@@ -118,9 +121,12 @@ bool TimelineWindow::Parts::CreateWindows(HWND ParentA, const RECT& PlaceA) {
   if (!scroller || !canvas || frame.Exists() || !frame.CreateIn(ParentA, PlaceA)) return false;
   forms.SetOwner(frame.Handle());
   Rescale();
-  if (scaleWindow.CreateIn(frame.Handle()) && canvasWindow.CreateIn(frame.Handle())) return true;
-  frame.Destroy();
-  return false;
+  if (!scaleWindow.CreateIn(frame.Handle()) || !canvasWindow.CreateIn(frame.Handle())) {
+    frame.Destroy();
+    return false;
+  }
+  drops.Open(canvasWindow.Handle(), [this] { return scale; });
+  return true;
 }
 
 void TimelineWindow::Parts::LayOut() {
@@ -150,104 +156,8 @@ void TimelineWindow::Parts::UseAmbience(const Ambience& AmbienceA) {
     window->SetTakesPointer(ambience.userMode);
     window->SetRightToLeft(ambience.rightToLeft);
   }
+  drops.SetTakesDrops(ambience.userMode);
   Restyle();
-}
-
-std::optional<LRESULT> TimelineWindow::Parts::AnswerFrame(const Message& MessageA) {
-  switch (MessageA.id) {
-    case WM_SIZE:
-      size = {LOWORD(MessageA.data), HIWORD(MessageA.data)};
-      LayOut();
-      return 0;
-    case WM_SETFOCUS:
-      SetFocus(canvasWindow.Handle());
-      return 0;
-    case WM_DPICHANGED_AFTERPARENT:
-      Rescale();
-      return 0;
-    case WM_DESTROY:
-      forms.SetOwner(nullptr);
-      return std::nullopt;
-    default:
-      if (ChangesLooks(MessageA.id)) Restyle();
-      return std::nullopt;
-  }
-}
-
-std::optional<LRESULT> TimelineWindow::Parts::AnswerScale(const Message& MessageA) {
-  if (ChangesLooks(MessageA.id)) Restyle();
-  return std::nullopt;
-}
-
-std::optional<LRESULT> TimelineWindow::Parts::AnswerCanvas(const Message& MessageA) {
-  if (rows.Handle(MessageA)) return 0;
-  switch (MessageA.id) {
-    case WM_SETFOCUS:
-      FocusCame(reinterpret_cast<HWND>(MessageA.word));
-      return 0;
-    case WM_KILLFOCUS:
-      FocusWent(reinterpret_cast<HWND>(MessageA.word));
-      return 0;
-    case WM_GETDLGCODE:
-      return DLGC_WANTARROWS | DLGC_WANTCHARS;
-    case WM_KEYDOWN:
-    case WM_SYSKEYDOWN:
-      if (PressKey(MessageA.word)) return 0;
-      return std::nullopt;
-    case kFollow:
-      Follow();
-      return 0;
-    case WM_DESTROY:
-      rows.Forget();
-      return std::nullopt;
-    default:
-      return AnswerScale(MessageA);
-  }
-}
-
-// Once for all that the messages at hand do.
-void TimelineWindow::Parts::FollowSoon() {
-  if (!canvasWindow.Exists() || std::exchange(mFollowsSoon, true)) return;
-  mFollowsSoon = PostMessageW(canvasWindow.Handle(), kFollow, 0, 0) != FALSE;
-}
-
-void TimelineWindow::Parts::Follow() {
-  mFollowsSoon = false;
-  rows.Follow(canvasWindow);
-}
-
-// Container first: it may want to make the control the active one before anything hears of the press.
-void TimelineWindow::Parts::Pressed() {
-  mIsPressed = true;
-  Tell(events.Pressed);
-  if (canvasWindow.Exists() && !HasFocus()) SetFocus(canvasWindow.Handle());
-  mIsPressed = false;
-}
-
-void TimelineWindow::Parts::FocusCame(HWND FromA) {
-  if (keyboard) Ref(keyboard)->ShowRing(!mIsPressed);
-  if (!IsOwn(FromA)) Tell(events.FocusTaken);
-}
-
-void TimelineWindow::Parts::FocusWent(HWND ToA) {
-  if (keyboard) Ref(keyboard)->ShowRing(false);
-  if (!IsOwn(ToA)) Tell(events.FocusLost);
-}
-
-bool TimelineWindow::Parts::IsOwn(HWND WindowA) const {
-  return WindowA && frame.Exists() && (WindowA == frame.Handle() || IsChild(frame.Handle(), WindowA));
-}
-
-bool TimelineWindow::Parts::HasFocus() const {
-  return IsOwn(GetFocus());
-}
-
-bool TimelineWindow::Parts::PressKey(WPARAM VirtualKeyA) {
-  if (!ambience.userMode || !keyboard || !control) return false;
-  const std::int16_t shift = HeldModifiers();
-  const bool pages = VirtualKeyA == VK_PRIOR || VirtualKeyA == VK_NEXT;
-  if (pages && shift == 0) return rows.TurnPage(VirtualKeyA == VK_NEXT);
-  return Ref(keyboard)->Press({KeyOf(VirtualKeyA), shift});
 }
 
 // The children one by one, each cut to its place.

@@ -4,13 +4,17 @@
 
 #include <murtimeline/automation/event.h>
 #include <murtimeline/render/bar_keyboard.h>
+#include <murtimeline/win32/accessible_bars.h>
 #include <murtimeline/win32/child_window.h>
+#include <murtimeline/win32/drop_router.h>
 #include <murtimeline/win32/frame_window.h>
 #include <murtimeline/win32/row_scroller.h>
 #include <murtimeline/win32/timeline_window.h>
 #include <murtimeline/win32/window_forms.h>
 
 namespace mur::win32 {
+
+class AccessibleTimeline;
 
 /// What a TimelineWindow consists of. It stays while any of its windows handles a message and as long as its
 /// companions, which may outlive the window.
@@ -47,6 +51,8 @@ struct TimelineWindow::Parts final : WindowOwner {
   RowScroller rows;
   FrameWindow frame;
   ChildWindow scaleWindow, canvasWindow;
+  DropRouter drops;
+  std::optional<AccessibleBars> bars;
   WindowForms forms;
   SIZE size{};
   double scale = 1;
@@ -58,6 +64,8 @@ struct TimelineWindow::Parts final : WindowOwner {
   std::optional<LRESULT> AnswerCanvas(const Message& MessageA);
   std::optional<LRESULT> AnswerScale(const Message& MessageA);
   void ConnectCompanions();
+  void ConnectKeyboard();
+  LRESULT GiveAccessible(WPARAM WordA);
   void Follow();
   void FollowSoon();
   void Pressed();
@@ -67,6 +75,7 @@ struct TimelineWindow::Parts final : WindowOwner {
   void DrawChild(HDC DeviceA, const ChildWindow& WindowA, const HostedChild& HostA,
                  const DevicePlace& PlaceA);
 
+  AccessibleTimeline* mAccessible = nullptr;  // made when it is first asked for
   bool mFollowsSoon = false;
   bool mIsPressed = false;  // the keyboard comes by the mouse
 };
