@@ -61,6 +61,32 @@ TEST(ComposedMoment, IsOverflowOutsideTheDateRange) {
   }
 }
 
+TEST(ClockReading, IsTheDayAndTheMillisecondsOfIt) {
+  const ClockReading reading = ReadClock(Date::Unchecked(36526.25 + 0.75 / kSecondsPerDay));
+  EXPECT_EQ(reading.day, 36526);
+  EXPECT_EQ(reading.milliseconds, 6 * 3'600'000 + 750);
+}
+
+TEST(ClockReading, CountsForwardBeforeTheFirstDay) {
+  const ClockReading reading = ReadClock(Date::Unchecked(-1.25));
+  EXPECT_EQ(reading.day, -1);
+  EXPECT_EQ(reading.milliseconds, 6 * 3'600'000);
+}
+
+TEST(ClockReading, IsOfTheNextDayWithinHalfAMillisecondOfMidnight) {
+  const ClockReading after = ReadClock(Date::Unchecked(std::nextafter(36526.0, 0)));
+  EXPECT_EQ(after.day, 36526);
+  EXPECT_EQ(after.milliseconds, 0);
+  const ClockReading before = ReadClock(Date::Unchecked(-2.999999999));  // the last moment of day -2
+  EXPECT_EQ(before.day, -1);
+  EXPECT_EQ(before.milliseconds, 0);
+}
+
+TEST(ClockReading, MakesTheMomentAgain) {
+  for (const double days : {36526.25, 0.0, 0.5, -1.25, -657434.0, -657433.75})
+    EXPECT_EQ(MomentOf(ReadClock(Date::Unchecked(days))), Date::Unchecked(days)) << days;
+}
+
 TEST(MomentText, IsTheLongDateTwoSpacesAndTheLongTime) {
   EXPECT_EQ(TextOf(36526.25), u"Saturday, January 1, 2000  6:00:00 AM");
   EXPECT_EQ(TextOf(36526), u"Saturday, January 1, 2000  12:00:00 AM");
