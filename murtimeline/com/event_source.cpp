@@ -37,7 +37,7 @@ EventSource::~EventSource() = default;
 
 void EventSource::FireAll(DISPID EventA, VARIANT* ArgumentsA, std::size_t CountA) {
   const auto listeners = mListeners;
-  if (!listeners) return;
+  if (!listeners || mFrozen > 0) return;
   // A listener may let the last reference to the object go.
   const Ref<IUnknown> keep(&mObject);
   std::reverse(ArgumentsA, ArgumentsA + CountA);

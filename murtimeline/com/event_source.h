@@ -35,6 +35,11 @@ class EventSource final : public IConnectionPointContainer {
     FireAll(EventA, arguments.data(), arguments.size());
   }
   bool HasListeners() const noexcept { return mListeners && !mListeners->empty(); }
+  /// Nobody is told anything until Thaw was called as often.
+  void Freeze() noexcept { ++mFrozen; }
+  void Thaw() noexcept {
+    if (mFrozen > 0) --mFrozen;
+  }
 
   STDMETHODIMP QueryInterface(REFIID InterfaceA, void** ResultA) noexcept override;
   STDMETHODIMP_(ULONG) AddRef() noexcept override { return mObject.AddRef(); }
@@ -76,6 +81,7 @@ class EventSource final : public IConnectionPointContainer {
   Point mPoint{*this};
   std::shared_ptr<const List> mListeners;  // replaced, never changed: events walk the one they began with
   DWORD mLastCookie = 0;
+  unsigned mFrozen = 0;
 };
 
 // Borrowed arguments that a listener may change.

@@ -1,3 +1,4 @@
+#include <murtimeline/com/drag_data_face.h>
 #include <murtimeline/com/marker_face.h>
 #include <murtimeline/com/objects.h>
 #include <murtimeline/com/render_config_face.h>
@@ -20,6 +21,7 @@ FaceBase* MakeFace(Object& ObjectA) {
   if (auto* timeline = dynamic_cast<CMURTimeline*>(&ObjectA)) return new TimelineFace(*timeline);
   if (auto* config = dynamic_cast<CMURTLRenderConfig*>(&ObjectA)) return new RenderConfigFace(*config);
   if (auto* marker = dynamic_cast<ITimeScaleMarker*>(&ObjectA)) return new MarkerFace(*marker);
+  if (auto* dragged = dynamic_cast<win32::DraggedData*>(&ObjectA)) return new DragDataFace(*dragged);
   throw AutomationError(ErrorCode::TypeMismatch);
 }
 

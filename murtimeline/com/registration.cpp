@@ -1,6 +1,7 @@
 #include <string>
 
 #include <murtimeline/com/class_factory.h>
+#include <murtimeline/com/embedding/misc_status.h>
 #include <murtimeline/com/guard.h>
 #include <murtimeline/com/registration.h>
 #include <murtimeline/com/type_library.h>
@@ -57,12 +58,10 @@ std::wstring ClassKey(const PublishedClass& ClassA) {
 }
 
 void WriteControl(const Registry& RegistryA, const std::wstring& KeyA, const std::wstring& ServerA) {
-  constexpr DWORD kStatus = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE |
-                            OLEMISC_SETCLIENTSITEFIRST | OLEMISC_CANTLINKINSIDE;
   RegistryA.Write(KeyA + L"\\Control");
   RegistryA.Write(KeyA + L"\\Implemented Categories\\" + kControlCategory);
   RegistryA.Write(KeyA + L"\\MiscStatus", L"0");
-  RegistryA.Write(KeyA + L"\\MiscStatus\\1", std::to_wstring(kStatus));
+  RegistryA.Write(KeyA + L"\\MiscStatus\\1", std::to_wstring(kMiscStatus));
   RegistryA.Write(KeyA + L"\\ToolboxBitmap32", ServerA + L", 101");
 }
 

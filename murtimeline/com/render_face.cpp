@@ -14,7 +14,7 @@ RenderFace::RenderFace(MURTimelineRender& ControlA, std::unique_ptr<win32::Timel
     : RenderBarsFace(ControlA),
       mWindow(std::move(WindowA)),
       mEvents(*Identity(), Source(), *this),
-      mEmbedding(*Identity(), ControlA, *mWindow) {
+      mEmbedding(*Identity(), mEvents, *mWindow) {
   mWindow->Attach(ControlA);
 }
 

@@ -22,6 +22,8 @@ class UniqueHandle {
   }
 
   T Get() const { return mHandle; }
+  /// Gives the handle up without closing it.
+  T Release() { return std::exchange(mHandle, nullptr); }
   explicit operator bool() const { return mHandle != nullptr; }
 
  private:
