@@ -46,7 +46,7 @@ std::optional<LRESULT> TimelineWindow::Parts::AnswerCanvas(const Message& Messag
   if (rows.Handle(MessageA)) return 0;
   switch (MessageA.id) {
     case WM_SETFOCUS:
-      FocusCame(reinterpret_cast<HWND>(MessageA.word));
+      FocusCame();
       return 0;
     case WM_KILLFOCUS:
       FocusWent(reinterpret_cast<HWND>(MessageA.word));
@@ -92,15 +92,17 @@ void TimelineWindow::Parts::Pressed() {
   mIsPressed = false;
 }
 
-void TimelineWindow::Parts::FocusCame(HWND FromA) {
+void TimelineWindow::Parts::FocusCame() {
   if (keyboard) Ref(keyboard)->ShowRing(!mIsPressed);
   if (bars) bars->TellFocus();
-  if (!IsOwn(FromA)) Tell(events.FocusTaken);
+  if (!std::exchange(mHasFocus, true)) Tell(events.FocusTaken);
 }
 
 void TimelineWindow::Parts::FocusWent(HWND ToA) {
   if (keyboard) Ref(keyboard)->ShowRing(false);
-  if (!IsOwn(ToA)) Tell(events.FocusLost);
+  if (IsOwn(ToA)) return;
+  mHasFocus = false;
+  Tell(events.FocusLost);
 }
 
 bool TimelineWindow::Parts::IsOwn(HWND WindowA) const {

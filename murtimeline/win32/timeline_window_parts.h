@@ -69,7 +69,7 @@ struct TimelineWindow::Parts final : WindowOwner {
   void Follow();
   void FollowSoon();
   void Pressed();
-  void FocusCame(HWND FromA);
+  void FocusCame();
   void FocusWent(HWND ToA);
   bool IsOwn(HWND WindowA) const;
   void DrawChild(HDC DeviceA, const ChildWindow& WindowA, const HostedChild& HostA,
@@ -77,6 +77,7 @@ struct TimelineWindow::Parts final : WindowOwner {
 
   AccessibleTimeline* mAccessible = nullptr;  // made when it is first asked for
   bool mFollowsSoon = false;
+  bool mHasFocus = false;   // as the container was told
   bool mIsPressed = false;  // the keyboard comes by the mouse
 };
 
