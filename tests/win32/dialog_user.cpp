@@ -137,7 +137,7 @@ int FocusId() {
   return GetDlgCtrlID(GetFocus());
 }
 
-HostWindow::HostWindow()
+OwnerWindow::OwnerWindow()
     : mRoot(CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 50, 700, 500,
                             nullptr, nullptr, nullptr, nullptr)),
       mChild(CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 10, 10, 100, 20, mRoot, nullptr, nullptr,
@@ -146,7 +146,7 @@ HostWindow::HostWindow()
   SetFocus(mChild);
 }
 
-void HostWindow::Destroy() {
+void OwnerWindow::Destroy() {
   if (mRoot) DestroyWindow(std::exchange(mRoot, nullptr));
 }
 

@@ -56,12 +56,12 @@ bool IsVisible(HWND WindowA, int IdA);
 int FocusId();
 
 /// A window of its own, visible, on which dialogs can stand.
-class HostWindow {
+class OwnerWindow {
  public:
-  HostWindow();
-  ~HostWindow() { Destroy(); }
-  HostWindow(const HostWindow&) = delete;
-  HostWindow& operator=(const HostWindow&) = delete;
+  OwnerWindow();
+  ~OwnerWindow() { Destroy(); }
+  OwnerWindow(const OwnerWindow&) = delete;
+  OwnerWindow& operator=(const OwnerWindow&) = delete;
 
   HWND Root() const { return mRoot; }
   /// A control in it.

@@ -38,7 +38,7 @@ class EditTimesWindow : public testing::Test {
     dialog->SetDuration(3600);
   }
 
-  test::HostWindow host;
+  test::OwnerWindow host;
   WindowForms forms{GetModuleHandleW(nullptr)};
   Ref<FMURTLRenderConfig> dialog;
 };

@@ -29,7 +29,7 @@ class DialogWindows : public testing::Test {
  protected:
   DialogWindows() { forms.SetOwner(host.Child()); }
 
-  test::HostWindow host;
+  test::OwnerWindow host;
   WindowForms forms{Module()};
 };
 
