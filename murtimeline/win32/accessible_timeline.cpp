@@ -31,7 +31,7 @@ HRESULT GiveNothing(VARIANT* TargetA) {
 HRESULT AccessibleTimeline::QueryInterface(REFIID IdA, void** ResultA) {
   if (!ResultA) return E_POINTER;
   const bool isOurs =
-      IsEqualIID(IdA, IID_IUnknown) || IsEqualIID(IdA, IID_IDispatch) || IsEqualIID(IdA, IID_IAccessible);
+      IsEqualIID(IdA, IID_IUnknown) || IsEqualIID(IdA, IID_IDispatch) || IsEqualIID(IdA, __uuidof(IAccessible));
   *ResultA = isOurs ? static_cast<IAccessible*>(this) : nullptr;
   if (!isOurs) return E_NOINTERFACE;
   AddRef();

@@ -123,7 +123,7 @@ bool TimelineWindow::Parts::PressKey(WPARAM VirtualKeyA) {
 
 LRESULT TimelineWindow::Parts::GiveAccessible(WPARAM WordA) {
   if (!mAccessible) mAccessible = new AccessibleTimeline(*bars);
-  return LresultFromObject(IID_IAccessible, WordA, mAccessible);
+  return LresultFromObject(__uuidof(IAccessible), WordA, mAccessible);
 }
 
 }  // namespace mur::win32
