@@ -10,3 +10,5 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 # Programs and libraries bring the compiler's run-time along.
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 set(CMAKE_SHARED_LINKER_FLAGS_INIT -static)
+# A broken stack ends the program before it returns, and processors check where calls may land.
+set(CMAKE_CXX_FLAGS_INIT "${MUR_WINDOWS_FLAGS} -fstack-protector-strong -fcf-protection")
