@@ -30,8 +30,8 @@ HRESULT GiveNothing(VARIANT* TargetA) {
 
 HRESULT AccessibleTimeline::QueryInterface(REFIID IdA, void** ResultA) {
   if (!ResultA) return E_POINTER;
-  const bool isOurs =
-      IsEqualIID(IdA, IID_IUnknown) || IsEqualIID(IdA, IID_IDispatch) || IsEqualIID(IdA, __uuidof(IAccessible));
+  const bool isOurs = IsEqualIID(IdA, IID_IUnknown) || IsEqualIID(IdA, IID_IDispatch) ||
+                      IsEqualIID(IdA, __uuidof(IAccessible));
   *ResultA = isOurs ? static_cast<IAccessible*>(this) : nullptr;
   if (!isOurs) return E_NOINTERFACE;
   AddRef();
@@ -136,18 +136,6 @@ HRESULT AccessibleTimeline::get_accState(VARIANT ChildA, VARIANT* StateA) {
         return Give(StateA, STATE_SYSTEM_FOCUSABLE | (isFocused ? STATE_SYSTEM_FOCUSED : 0));
       },
       [&](AccessibleBars& bars, const Ref<ICanvasItem>& item) { return Give(StateA, bars.State(item)); });
-}
-
-HRESULT AccessibleTimeline::get_accHelp(VARIANT, BSTR* TextA) {
-  return TextA ? Give(TextA, {}) : E_POINTER;
-}
-
-HRESULT AccessibleTimeline::get_accHelpTopic(BSTR* FileA, VARIANT, LONG*) {
-  return FileA ? Give(FileA, {}) : E_POINTER;
-}
-
-HRESULT AccessibleTimeline::get_accKeyboardShortcut(VARIANT, BSTR* KeyA) {
-  return KeyA ? Give(KeyA, {}) : E_POINTER;
 }
 
 HRESULT AccessibleTimeline::get_accFocus(VARIANT* ChildA) {

@@ -39,9 +39,11 @@ class AccessibleTimeline final : public IAccessible {
   HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT ChildA, BSTR* TextA) override;
   HRESULT STDMETHODCALLTYPE get_accRole(VARIANT ChildA, VARIANT* RoleA) override;
   HRESULT STDMETHODCALLTYPE get_accState(VARIANT ChildA, VARIANT* StateA) override;
-  HRESULT STDMETHODCALLTYPE get_accHelp(VARIANT ChildA, BSTR* TextA) override;
-  HRESULT STDMETHODCALLTYPE get_accHelpTopic(BSTR* FileA, VARIANT ChildA, LONG* TopicA) override;
-  HRESULT STDMETHODCALLTYPE get_accKeyboardShortcut(VARIANT ChildA, BSTR* KeyA) override;
+  HRESULT STDMETHODCALLTYPE get_accHelp(VARIANT, BSTR* TextA) override { return GiveNoText(TextA); }
+  HRESULT STDMETHODCALLTYPE get_accHelpTopic(BSTR* FileA, VARIANT, LONG*) override {
+    return GiveNoText(FileA);
+  }
+  HRESULT STDMETHODCALLTYPE get_accKeyboardShortcut(VARIANT, BSTR* KeyA) override { return GiveNoText(KeyA); }
   HRESULT STDMETHODCALLTYPE get_accFocus(VARIANT* ChildA) override;
   HRESULT STDMETHODCALLTYPE get_accSelection(VARIANT* ChildrenA) override;
   HRESULT STDMETHODCALLTYPE get_accDefaultAction(VARIANT ChildA, BSTR* ActionA) override;
@@ -56,6 +58,12 @@ class AccessibleTimeline final : public IAccessible {
 
  private:
   ~AccessibleTimeline() = default;
+
+  static HRESULT GiveNoText(BSTR* TextA) {
+    if (!TextA) return E_POINTER;
+    *TextA = nullptr;
+    return S_FALSE;
+  }
 
   template <class Work>
   HRESULT Answer(Work&& WorkA);

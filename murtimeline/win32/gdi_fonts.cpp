@@ -7,6 +7,7 @@ namespace mur::win32 {
 namespace {
 
 constexpr std::size_t kMostTexts = 8192;
+constexpr std::size_t kMostFonts = 64;
 constexpr double kLargestSize = 4000;  // device pixels
 
 LOGFONTW MessageFont() {
@@ -59,6 +60,7 @@ int GdiFonts::WidthOf(StringView TextA, const Face& FaceA) const {
 GdiFonts::Face& GdiFonts::FaceOf(const TextStyle& StyleA, double PixelsA) {
   const double wanted = static_cast<double>(StyleA.size) * PixelsA;
   const int pixels = static_cast<int>(std::lround(std::clamp(wanted, 1.0, kLargestSize)));
+  if (mFaces.size() >= kMostFonts) mFaces.clear();
   Face& face = mFaces[StyleA.bold ? -pixels : pixels];
   if (face.font) return face;
   face.font = MakeFont(mName, pixels, StyleA.bold);

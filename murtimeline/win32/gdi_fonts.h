@@ -22,8 +22,7 @@ class GdiFonts {
 
   /// Another face, the system's message font for an empty name; forgets everything.
   void SetFace(const std::wstring& NameA);
-  /// The font of a style at a scale, `PixelsA` device pixels to a logical one. It lasts until the next
-  /// SetFace.
+  /// The font of a style at a scale, `PixelsA` device pixels to a logical one. It lasts until the next call.
   HFONT FontOf(const TextStyle& StyleA, double PixelsA) { return FaceOf(StyleA, PixelsA).font.Get(); }
   Measure MeasureText(StringView TextA, const TextStyle& StyleA, double PixelsA);
 

@@ -39,6 +39,7 @@ Tile::Tile(const Coverage& CoverageA, Rgba ColorA) : mDevice(CreateCompatibleDC(
   std::uint32_t* pixel = nullptr;
   mBitmap = MakeBitmap(mDevice.Get(), CoverageA.Width(), CoverageA.Height(), pixel);
   if (!mBitmap) return;
+  SelectObject(mDevice.Get(), mBitmap.Get());
   for (int row = 0; row < CoverageA.Height(); ++row)
     for (int column = 0; column < CoverageA.Width(); ++column)
       *pixel++ = Premultiplied(ColorA, CoverageA.At(row, column));
@@ -51,7 +52,6 @@ void Tile::Draw(HDC DeviceA, const RECT& PlaceA, POINT FromA) const {
 
 void Tile::Blend(HDC DeviceA, const RECT& PlaceA, const RECT& PartA) const {
   if (!mBitmap || PlaceA.right <= PlaceA.left || PlaceA.bottom <= PlaceA.top) return;
-  const Selected bitmap(mDevice.Get(), mBitmap.Get());
   constexpr BLENDFUNCTION kOver{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
   GdiAlphaBlend(DeviceA, static_cast<int>(PlaceA.left), static_cast<int>(PlaceA.top),
                 static_cast<int>(PlaceA.right - PlaceA.left), static_cast<int>(PlaceA.bottom - PlaceA.top),

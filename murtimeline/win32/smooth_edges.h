@@ -22,8 +22,8 @@ class Tile {
  private:
   void Blend(HDC DeviceA, const RECT& PlaceA, const RECT& PartA) const;
 
-  UniqueDevice mDevice;
   UniqueBitmap mBitmap;
+  UniqueDevice mDevice;  // holds the bitmap, and so goes first
 };
 
 /// A round corner of a frame, of a filled shape where its width is the radius (device pixels).

@@ -3,6 +3,7 @@
 #include <murtimeline/win32/accessible_timeline.h>
 #include <murtimeline/win32/keys.h>
 #include <murtimeline/win32/listener.h>
+#include <murtimeline/win32/message_guard.h>
 #include <murtimeline/win32/timeline_window_parts.h>
 
 namespace mur::win32 {
@@ -87,7 +88,7 @@ void TimelineWindow::Parts::Follow() {
 // Container first: it may want to make the control the active one before anything hears of the press.
 void TimelineWindow::Parts::Pressed() {
   mIsPressed = true;
-  Tell(events.Pressed);
+  GuardCallback([this] { Tell(events.Pressed); });
   if (canvasWindow.Exists() && !HasFocus()) SetFocus(canvasWindow.Handle());
   mIsPressed = false;
 }
