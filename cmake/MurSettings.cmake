@@ -25,6 +25,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   # every std::sort on a small array. The sanitizers find the real ones.
   target_compile_options(mur_settings INTERFACE -Wno-restrict -Wno-array-bounds)
 endif()
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # Where sources are compiled together, each counts as a header, whose private classes would be a mistake.
+  target_compile_options(mur_settings INTERFACE -Wno-subobject-linkage)
+endif()
 if(MUR_SANITIZE)
   # float-cast-overflow is not part of "undefined" in g++ and must be named.
   target_compile_options(mur_settings INTERFACE -fsanitize=${MUR_SANITIZE},float-cast-overflow
