@@ -129,13 +129,20 @@ HRESULT InPlace::Deactivate() {
   mState = State::Away;
   mFrame = {};
   mDocument = {};
+  LeaveFocus();
   mWindow.Destroy();
   site->OnInPlaceDeactivate();
   return S_OK;
 }
 
+// A window that goes leaves the keyboard nowhere.
+void InPlace::LeaveFocus() const {
+  if (mWindow.HasFocus()) SetFocus(GetParent(mWindow.Handle()));
+}
+
 HRESULT InPlace::Hide() {
   DeactivateUi();
+  LeaveFocus();
   if (const HWND window = mWindow.Handle()) ShowWindow(window, SW_HIDE);
   return S_OK;
 }

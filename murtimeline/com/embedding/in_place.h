@@ -47,6 +47,7 @@ class InPlace {
   Surroundings Ask(IOleInPlaceSite& SiteA, const Hint& HintA) const;
   bool ShowIn(HWND ParentA, const RECT& PlaceA);
   void Clip(const RECT& PlaceA, const RECT* ClipA);
+  void LeaveFocus() const;
   void Announce(IOleInPlaceActiveObject* ObjectA) const;
 
   IUnknown& mIdentity;

@@ -61,7 +61,9 @@ HRESULT Put(Value* ResultA, const Value& ValueA) noexcept {
 /// The body of a method that gives an object, or none.
 template <class Interface>
 HRESULT PutObject(Interface** ResultA, const Ref<Interface>& ObjectA) noexcept {
-  return Put(ResultA, Ref<Interface>(ObjectA).Detach());
+  if (!ResultA) return E_POINTER;
+  *ResultA = Ref<Interface>(ObjectA).Detach();
+  return S_OK;
 }
 
 }  // namespace mur::com
