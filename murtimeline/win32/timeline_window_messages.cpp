@@ -53,7 +53,7 @@ std::optional<LRESULT> TimelineWindow::Parts::AnswerCanvas(const Message& Messag
       FocusWent(reinterpret_cast<HWND>(MessageA.word));
       return 0;
     case WM_GETDLGCODE:
-      return DLGC_WANTARROWS | DLGC_WANTCHARS;
+      return DialogCode(reinterpret_cast<const MSG*>(MessageA.data));
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
       if (PressKey(MessageA.word)) return 0;
@@ -71,6 +71,15 @@ std::optional<LRESULT> TimelineWindow::Parts::AnswerCanvas(const Message& Messag
     default:
       return AnswerScale(MessageA);
   }
+}
+
+// A dialog keeps Enter and Esc for its buttons unless they mean something here.
+LRESULT TimelineWindow::Parts::DialogCode(const MSG* KeyA) const {
+  const bool isKey = KeyA && KeyA->message == WM_KEYDOWN && keyboard && control;
+  const bool clicks = isKey && KeyA->wParam == VK_RETURN && keyboard->Current();
+  const bool cancels =
+      isKey && KeyA->wParam == VK_ESCAPE && (control->IsDragging() || scroller->IsDragging());
+  return DLGC_WANTARROWS | DLGC_WANTCHARS | (clicks || cancels ? DLGC_WANTMESSAGE : 0);
 }
 
 // Once for all that the messages at hand do.

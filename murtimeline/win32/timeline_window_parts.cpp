@@ -22,8 +22,7 @@ class Keeper final : public HostFace {
 }  // namespace
 
 TimelineWindow::Parts::Parts(HINSTANCE ModuleA)
-    : module(ModuleA),
-      frame(
+    : frame(
           ModuleA, *this, [this](const Message& message) { return AnswerFrame(message); },
           [this] { Tell(events.Destroyed); }),
       scaleWindow(ModuleA, *this, scaleHost, tools),

@@ -39,7 +39,6 @@ struct TimelineWindow::Parts final : WindowOwner {
   bool HasFocus() const;
   void Draw(HDC DeviceA, const RECT& PlaceA);
 
-  HINSTANCE module;
   WindowEvents events;
   Ambience ambience;
   GdiTools tools;
@@ -66,6 +65,7 @@ struct TimelineWindow::Parts final : WindowOwner {
   void ConnectCompanions();
   void ConnectKeyboard();
   LRESULT GiveAccessible(WPARAM WordA);
+  LRESULT DialogCode(const MSG* KeyA) const;
   void Follow();
   void FollowSoon();
   void Pressed();

@@ -99,6 +99,20 @@ TEST_F(WindowKeys, ADialogLeavesThemTheArrows) {
   EXPECT_NE(shown.Send(WM_GETDLGCODE, 0, 0) & DLGC_WANTARROWS, 0);
 }
 
+TEST_F(WindowKeys, ADialogKeepsEnterAndEscUnlessTheyMeanSomething) {
+  const auto wants = [this](WPARAM key) {
+    MSG message{shown.CanvasWindow(), WM_KEYDOWN, key, 0, 0, {}};
+    return (shown.Send(WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&message)) & DLGC_WANTMESSAGE) != 0;
+  };
+  EXPECT_FALSE(wants(VK_RETURN));
+  EXPECT_FALSE(wants(VK_ESCAPE));
+  shown.Key(VK_RIGHT);
+  EXPECT_TRUE(wants(VK_RETURN));
+  shown.Press(150, 10);
+  EXPECT_TRUE(wants(VK_ESCAPE));
+  shown.Release(150, 10);
+}
+
 TEST_F(WindowKeys, TurnThePagesOfRowsThatDoNotFit) {
   EXPECT_FALSE(Translate(VK_NEXT));
   for (const char16_t key : {u'c', u'd', u'e', u'f', u'g'}) shown.Bar(StringView(&key, 1), 200);
