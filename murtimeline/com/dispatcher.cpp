@@ -111,9 +111,13 @@ HRESULT Dispatcher::Invoke(void* InstanceA, const Member& MemberA, DISPPARAMS& G
     PreparedCall call;
     result = call.Prepare(MemberA, GivenA, WrongA);
     if (FAILED(result)) return;
-    result =
-        mDescription->Invoke(InstanceA, MemberA.id, MemberA.way, &call.Arguments(), ResultA, ErrorA, WrongA);
-    if (SUCCEEDED(result) && ResultA) ShowHostObject(*ResultA);
+    // Nothing is handed out by a call that fails.
+    OwnVariant value;
+    result = mDescription->Invoke(InstanceA, MemberA.id, MemberA.way, &call.Arguments(),
+                                  ResultA ? &value : nullptr, ErrorA, WrongA);
+    if (FAILED(result) || !ResultA) return;
+    ShowHostObject(value.Get());
+    *ResultA = value.Detach();
   });
   return FAILED(guarded) ? guarded : result;
 }

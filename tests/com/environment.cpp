@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "tests/com/server.h"
+#include "tests/com/counted.h"
 
-// What holds for every test of the server: its thread is an apartment of its own, and no object of the server
-// outlives the test.
+// What holds for every test of the server: its thread is an apartment of its own, and neither an object of
+// the server nor one of the tests' own that it was given outlives the test.
 
 namespace mur::test {
 namespace {
@@ -11,7 +11,12 @@ namespace {
 class Leftovers final : public testing::EmptyTestEventListener {
   void OnTestEnd(const testing::TestInfo& /*TestA*/) override {
     if (!server::IsIdle()) ADD_FAILURE() << "objects of the server outlive the test";
+    if (HostObjectsAlive() != mHostObjects)
+      ADD_FAILURE() << "the server still holds objects of the test's own";
+    mHostObjects = HostObjectsAlive();
   }
+
+  long mHostObjects = 0;  // those of a test that failed count once
 };
 
 class Apartment final : public testing::Environment {

@@ -6,7 +6,12 @@
 #include <string_view>
 #include <vector>
 
+#include <objsafe.h>
+
 #include <murtimeline/com/contract.h>
+
+// Not in the compiler's headers.
+__CRT_UUID_DECL(IObjectSafety, 0xcb5bdc81, 0x93c1, 0x11cf, 0x8f, 0x20, 0x00, 0x80, 0x5f, 0x2c, 0xd0, 0x64)
 
 namespace mur::test {
 
