@@ -5,12 +5,13 @@ PICTURE ?= build/demo.png
 RELEASE := build/release
 VIEWER := $(RELEASE)/bin/murtimeline-viewer
 BENCH := $(RELEASE)/bin/mur_bench
+WINDOWS := build/win64 build/win32
 
 .DEFAULT_GOAL := help
-.PHONY: help demo picture test viewer bench format check coverage packages
+.PHONY: help demo picture test test-com viewer com installer bench bench-com format check coverage packages windows-packages
 
 help: ## this list
-	@awk -F ': .*## ' '/^[a-z]+: .*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
+	@awk -F ': .*## ' '/^[a-z-]+: .*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
 
 demo: viewer ## show SAMPLE in the viewer; without a display, write the picture PICTURE
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
@@ -24,12 +25,30 @@ picture: packages ## draw the viewer's window for the README (docs/viewer.png)
 	@cmake --build $(RELEASE) --target viewer_picture
 	@$(RELEASE)/bin/viewer_picture viewer/samples/feature_film.otio docs/viewer.png && echo docs/viewer.png
 
-test: packages ## build and run all tests, plain and under the sanitizers
+test: packages windows-packages ## build and run all tests, plain, under the sanitizers and in Wine
 	@tools/run_tests
 
 viewer: packages ## build the viewer
 	@cmake --preset release
 	@cmake --build $(RELEASE) --target murtimeline-viewer
+
+com: windows-packages ## build the COM server for Windows: build/win64/bin and build/win32/bin
+	@for folder in $(WINDOWS); do \
+	  cmake --preset $${folder#build/} && cmake --build $$folder --target murtimeline-ocx mur_manifest || exit 1; \
+	done
+	@ls $(WINDOWS:=/bin/MURTimeline.ocx)
+
+test-com: windows-packages ## build and run the tests of the COM server alone
+	@tools/run_tests win64 win32
+
+installer: com ## build/MURTimeline-VERSION-setup.exe
+	@tools/install-packages installer
+	@tools/make_installer
+
+bench-com: windows-packages ## what calls through COM cost, beside the same calls in C++
+	@cmake --preset win64 -D MUR_BUILD_BENCH=ON
+	@cmake --build build/win64 --target mur_bench_com
+	@tools/run_in_wine build/win64/bin/mur_bench_com.exe
 
 bench: packages ## build and run the benchmarks
 	@cmake --preset release
@@ -55,3 +74,6 @@ coverage: packages ## line and branch coverage of the core
 
 packages:
 	@tools/install-packages
+
+windows-packages:
+	@tools/install-packages com
