@@ -75,6 +75,18 @@ TEST(PlatformContainer, HandsItTheMouse) {
               ElementsAre(HasSubstr("MouseDown"), HasSubstr("MouseUp"), HasSubstr("Click")));
 }
 
+TEST(PlatformContainer, LetsBarsBeDragged) {
+  const PlatformHost host;
+  const Late bar = AddBarTo(host.control);  // from 80 to 160 pixels of 400
+  host.control.Put(L"AllowObjectDragging", {true});
+  SendMessageW(host.Canvas(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(100, 20));
+  SendMessageW(host.Canvas(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(140, 20));
+  SendMessageW(host.Canvas(), WM_LBUTTONUP, 0, MAKELPARAM(140, 20));
+  // 40 pixels are 50 seconds.
+  EXPECT_NEAR(bar.Get(L"WorldTimeT0").Number(), 36526.5 + 150.0 / 86400, 0.01 / 86400);
+  Late(host.control.Get(L"Timeline")).Call(L"Clear");
+}
+
 TEST(PlatformContainer, EndsWithItsWindow) {
   PlatformHost host;
   const HWND control = host.Control();

@@ -10,6 +10,31 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// Does something once a window has a dialog, and closes that then.
+class DuringDialog {
+ public:
+  DuringDialog(HWND OwnerA, std::function<void()> ActionA)
+      : mOwner(OwnerA), mAction(std::move(ActionA)), mTimer(SetTimer(nullptr, 0, 10, &OnTimer)) {
+    sThis = this;
+  }
+  DuringDialog(const DuringDialog&) = delete;
+  DuringDialog& operator=(const DuringDialog&) = delete;
+  ~DuringDialog() { KillTimer(nullptr, mTimer); }
+
+ private:
+  static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+    const HWND dialog = GetLastActivePopup(sThis->mOwner);
+    if (!dialog || dialog == sThis->mOwner) return;
+    std::exchange(sThis->mAction, [] {})();
+    PostMessageW(dialog, WM_CLOSE, 0, 0);
+  }
+
+  static inline DuringDialog* sThis = nullptr;
+  const HWND mOwner;
+  std::function<void()> mAction;
+  const UINT_PTR mTimer;
+};
+
 TEST(Lifetime, MayBeClosedInAnyStepOfItsActivation) {
   for (const char* step : {"CanInPlaceActivate", "OnInPlaceActivate", "GetWindow", "GetWindowContext",
                            "ShowObject", "OnUIActivate", "OnFocus", "frame has an active object",
@@ -105,20 +130,33 @@ TEST(Lifetime, LeavesNothingBehindWhenItIsLetGoWithoutBeingClosed) {
   EXPECT_THAT(embedded.container.book.Take(), IsEmpty());
 }
 
-TEST(Lifetime, ShowsTheDialogAndIsClosedMeanwhile) {
+TEST(Lifetime, ShowsItsDialogInFrontOfItsContainer) {
   Embedded embedded;
   embedded.Show();
-  static Embedded* sEmbedded = nullptr;
-  sEmbedded = &embedded;
-  const UINT_PTR timer = SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR, DWORD) {
-    if (const HWND dialog = GetLastActivePopup(sEmbedded->container.Window());
-        dialog != sEmbedded->container.Window())
-      PostMessageW(dialog, WM_CLOSE, 0, 0);
-  });
+  bool wasEnabled = true;
+  const DuringDialog during(embedded.container.Window(),
+                            [&] { wasEnabled = IsWindowEnabled(embedded.container.Window()) != FALSE; });
   embedded.control.Call(L"ShowEditor");
-  KillTimer(nullptr, timer);
+  EXPECT_FALSE(wasEnabled);
   EXPECT_TRUE(IsWindowEnabled(embedded.container.Window()));
   EXPECT_NE(embedded.Window(), nullptr);
+}
+
+TEST(Lifetime, MayBeClosedWhileItsDialogIsOpen) {
+  Embedded embedded;
+  embedded.Show();
+  const DuringDialog during(embedded.container.Window(), [&] { embedded.Close(); });
+  embedded.control.Call(L"ShowEditor");
+  EXPECT_TRUE(IsWindowEnabled(embedded.container.Window()));
+  EXPECT_EQ(embedded.Window(), nullptr);
+}
+
+TEST(Lifetime, MayLoseItsContainersWindowWhileItsDialogIsOpen) {
+  Embedded embedded;
+  embedded.Show();
+  const DuringDialog during(embedded.container.Window(), [&] { embedded.container.Destroy(); });
+  embedded.control.Call(L"ShowEditor");
+  EXPECT_EQ(embedded.Window(), nullptr);
 }
 
 TEST(Lifetime, CostsNoHandlesAndNoObjects) {

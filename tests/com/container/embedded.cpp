@@ -21,6 +21,23 @@ void TestContainer::Destroy() {
   if (IsWindow(mWindow)) DestroyWindow(mWindow);
 }
 
+Late AddBarTo(const Late& ControlA) {
+  const Value noon = Value::Date(36526.5);
+  // Attached by its property, the time line gets a cursor and the canvas counts pixels.
+  ControlA.Put(L"Timeline", {ControlA.Get(L"Timeline")});
+  ControlA.Put(L"WorldTimeT0", {noon});
+  ControlA.Put(L"Duration", {500.0});
+  ControlA.Put(L"CursorTime", {Value::Date(36526.5 + 400.0 / 86400)});
+  const Late timeline(ControlA.Get(L"Timeline"));
+  const Late bar(timeline.Call(L"Add", {2, L"Bar", true}));
+  bar.Put(L"WorldTimeT0", {Value::Date(36526.5 + 100.0 / 86400)});
+  bar.As<::_CMURTimelineMedia>().Put(L"MediaDuration", {100.0});
+  bar.Put(L"Duration", {100.0});
+  ControlA.Call(L"AlignTracks");
+  PumpMessages();
+  return bar;
+}
+
 Embedded::Embedded() {
   Require(mObject->SetClientSite(container.site.Get()), "SetClientSite");
   Require(As<IPersistStreamInit>()->InitNew(), "InitNew");
@@ -61,23 +78,6 @@ std::string Embedded::Place() const {
   MapWindowPoints(nullptr, GetParent(Window()), reinterpret_cast<POINT*>(&place), 2);
   return std::to_string(place.left) + "," + std::to_string(place.top) + " " +
          std::to_string(place.right - place.left) + "x" + std::to_string(place.bottom - place.top);
-}
-
-Late Embedded::AddBar() const {
-  const Value noon = Value::Date(36526.5);
-  // Attached by its property, the time line gets a cursor and the canvas counts pixels.
-  control.Put(L"Timeline", {control.Get(L"Timeline")});
-  control.Put(L"WorldTimeT0", {noon});
-  control.Put(L"Duration", {500.0});
-  control.Put(L"CursorTime", {Value::Date(36526.5 + 400.0 / 86400)});
-  const Late timeline(control.Get(L"Timeline"));
-  const Late bar(timeline.Call(L"Add", {2, L"Bar", true}));
-  bar.Put(L"WorldTimeT0", {Value::Date(36526.5 + 100.0 / 86400)});
-  bar.As<::_CMURTimelineMedia>().Put(L"MediaDuration", {100.0});
-  bar.Put(L"Duration", {100.0});
-  control.Call(L"AlignTracks");
-  PumpMessages();
-  return bar;
 }
 
 void Embedded::Click(int XA, int YA) const {

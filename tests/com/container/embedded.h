@@ -24,6 +24,10 @@ class TestContainer {
   HWND mWindow;
 };
 
+/// A range of 500 seconds, and a bar that takes 100 of them from the hundredth on, on a track of its own: 40
+/// pixels high from the canvas's top.
+Late AddBarTo(const Late& ControlA);
+
 /// A control in a container of the tests' own. It is closed and let go at the end, as containers do.
 class Embedded {
  public:
@@ -53,8 +57,8 @@ class Embedded {
   /// Its place in device pixels of its parent, as "left,top widthxheight".
   std::string Place() const;
 
-  /// A bar of 100 pixels from 100 on, on a track of its own, 2 to 42 pixels below the canvas's top.
-  Late AddBar() const;
+  /// AddBarTo this control: from 100 to 200 of 500 pixels when it is shown.
+  Late AddBar() const { return AddBarTo(control); }
   /// A press and a release of the left button there.
   void Click(int XA, int YA) const;
   std::string PressKey(WPARAM KeyA) const;
