@@ -112,6 +112,21 @@ TEST(DataObject, TellsWithoutThePictureWhereThatIsNotWanted) {
   EXPECT_EQ(data->DUnadvise(77), OLE_E_NOCONNECTION);
 }
 
+TEST(DataObject, TellsThoseWhoWaitForItsEndWhenItCloses) {
+  Embedded embedded;
+  const Ref<AdviseSink> sink(new AdviseSink(embedded.container.book));
+  const auto data = embedded.As<IDataObject>();
+  FORMATETC format = FormatOf(CF_ENHMETAFILE, TYMED_ENHMF);
+  DWORD cookie = 0;
+  ASSERT_EQ(data->DAdvise(&format, ADVF_NODATA | ADVF_DATAONSTOP, sink.Get(), &cookie), S_OK);
+  embedded.AddBar();
+  embedded.container.book.Take();
+  embedded.Close();
+  // With the picture or without: not every version of the platform sends it along.
+  EXPECT_THAT(embedded.container.book.Take(), ElementsAre(testing::StartsWith("OnDataChange")));
+  data->DUnadvise(cookie);
+}
+
 TEST(DataObject, TakesNoData) {
   const Embedded embedded;
   FORMATETC format = FormatOf(CF_ENHMETAFILE, TYMED_ENHMF);

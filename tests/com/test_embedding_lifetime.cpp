@@ -71,6 +71,18 @@ TEST(Lifetime, MayBeActivatedAgainInAnyStepOfItsEnd) {
   }
 }
 
+TEST(Lifetime, StaysWhereItsContainerPutItWhileItWasBeingActivatedElsewhere) {
+  Embedded embedded;
+  TestContainer other;
+  embedded.container.book.reactions["GetWindowContext"] = [&] {
+    embedded.Object().SetClientSite(other.site.Get());
+    embedded.Object().DoVerb(OLEIVERB_SHOW, nullptr, nullptr, 0, nullptr, nullptr);
+  };
+  EXPECT_EQ(embedded.Do(OLEIVERB_SHOW), E_ABORT);
+  EXPECT_EQ(GetParent(embedded.Window()), other.Window());
+  embedded.Object().SetClientSite(nullptr);
+}
+
 TEST(Lifetime, IsClosedByAHandlerOfItsOwnEvents) {
   for (const char* event : {"TLObjectMouseDown", "TLObjectMouseUp", "TLObjectClick"}) {
     SCOPED_TRACE(event);

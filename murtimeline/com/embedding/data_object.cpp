@@ -42,10 +42,10 @@ HRESULT Find(const FORMATETC* WantedA, const Format** ResultA) {
 }  // namespace
 
 // The holder asks for the data, which nobody may be told of again meanwhile.
-void DataObject::TellChanged() {
+void DataObject::Tell(DWORD FlagsA) {
   const auto advised = mAdvised;
   if (!advised || std::exchange(mTells, true)) return;
-  advised->SendOnDataChange(this, 0, 0);
+  advised->SendOnDataChange(this, 0, FlagsA);
   mTells = false;
 }
 

@@ -13,7 +13,9 @@ class DataObject final : public Part<IDataObject> {
       : Part(IdentityA), mWindow(WindowA), mExtent(ExtentA) {}
 
   /// Tells those who asked for it that the picture changed.
-  void TellChanged();
+  void TellChanged() { Tell(0); }
+  /// Tells those who asked to be told at the end.
+  void TellStopped() { Tell(ADVF_DATAONSTOP); }
 
   STDMETHODIMP GetData(FORMATETC* FormatA, STGMEDIUM* ResultA) noexcept override;
   STDMETHODIMP GetDataHere(FORMATETC* FormatA, STGMEDIUM* MediumA) noexcept override;
@@ -27,6 +29,8 @@ class DataObject final : public Part<IDataObject> {
   STDMETHODIMP EnumDAdvise(IEnumSTATDATA** ResultA) noexcept override;
 
  private:
+  void Tell(DWORD FlagsA);
+
   win32::TimelineWindow& mWindow;
   const Extent& mExtent;
   Ref<IDataAdviseHolder> mAdvised;  // made for the first one

@@ -14,12 +14,12 @@ struct Embedding::Parts {
       : window(WindowA),
         extent(WindowA),
         inPlace(ControlA, container, WindowA),
-        object(ControlA, WindowA, container, inPlace, extent),
+        data(ControlA, WindowA, extent),
+        object(ControlA, WindowA, container, inPlace, extent, data),
         inPlaceObject(ControlA, WindowA, inPlace),
         activeObject(ControlA, WindowA, container),
         control(ControlA, WindowA, container, EventsA),
         view(ControlA, WindowA, extent),
-        data(ControlA, WindowA, extent),
         quick(ControlA, WindowA, object, view, EventsA),
         stream(ControlA, beginning),
         bag(ControlA, beginning),
@@ -47,12 +47,12 @@ struct Embedding::Parts {
   InPlace inPlace;
   Beginning beginning;
 
+  DataObject data;
   OleObject object;
   InPlaceObject inPlaceObject;
   InPlaceActiveObject activeObject;
   OleControl control;
   ViewObject view;
-  DataObject data;
   QuickActivation quick;
   PersistStream stream;
   PersistPropertyBag bag;

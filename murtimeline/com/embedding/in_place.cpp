@@ -16,9 +16,12 @@ struct InPlace::Surroundings {
 HRESULT InPlace::Activate(const Hint& HintA) {
   HRESULT result = IsActive() ? S_OK : Enter();
   if (FAILED(result)) return result;
-  result = Open(HintA);
+  const auto site = mSite;
+  if (!site) return E_ABORT;
+  result = Open(*site, HintA);
   if (FAILED(result)) {
-    Deactivate();
+    // Unless the container ended this itself and has the control elsewhere by now.
+    if (mSite == site) Deactivate();
     return result;
   }
   mContainer.ShowObject();
@@ -39,11 +42,9 @@ HRESULT InPlace::Enter() {
   return result;
 }
 
-HRESULT InPlace::Open(const Hint& HintA) {
-  const auto site = mSite;
-  if (!site) return E_ABORT;
-  Surroundings found = Ask(*site, HintA);
-  if (!(mSite == site)) return E_ABORT;
+HRESULT InPlace::Open(IOleInPlaceSite& SiteA, const Hint& HintA) {
+  Surroundings found = Ask(SiteA, HintA);
+  if (mSite.Get() != &SiteA) return E_ABORT;
   mFrame = std::move(found.frame);
   mDocument = std::move(found.document);
   if (!ShowIn(found.parent, found.place)) return E_FAIL;

@@ -43,7 +43,7 @@ class InPlace {
   struct Surroundings;
 
   HRESULT Enter();
-  HRESULT Open(const Hint& HintA);
+  HRESULT Open(IOleInPlaceSite& SiteA, const Hint& HintA);
   Surroundings Ask(IOleInPlaceSite& SiteA, const Hint& HintA) const;
   bool ShowIn(HWND ParentA, const RECT& PlaceA);
   void Clip(const RECT& PlaceA, const RECT* ClipA);

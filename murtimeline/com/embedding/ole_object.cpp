@@ -46,6 +46,7 @@ HRESULT OleObject::Close(DWORD SaveA) noexcept {
   if (SaveA > OLECLOSE_PROMPTSAVE) return E_INVALIDARG;
   return Run([&] {
     mInPlace.Deactivate();
+    mData.TellStopped();
     if (const auto advised = mAdvised) advised->SendOnClose();
     return S_OK;
   });
@@ -65,7 +66,7 @@ HRESULT OleObject::InitFromData(IDataObject*, BOOL, DWORD) noexcept {
 }
 
 HRESULT OleObject::GetClipboardData(DWORD, IDataObject** ResultA) noexcept {
-  return Run([&] { return PutObject(ResultA, Query<IDataObject>(this)); });
+  return PutObject(ResultA, Ref<IDataObject>(&mData));
 }
 
 HRESULT OleObject::DoVerb(LONG VerbA, LPMSG MessageA, IOleClientSite* SiteA, LONG /*IndexA*/, HWND ParentA,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <murtimeline/com/embedding/data_object.h>
 #include <murtimeline/com/embedding/extent.h>
 #include <murtimeline/com/embedding/in_place.h>
 #include <murtimeline/com/embedding/part.h>
@@ -11,8 +12,13 @@ class OleObject final : public Part<IOleObject> {
  public:
   /// All of them outlive this object.
   OleObject(IUnknown& IdentityA, win32::TimelineWindow& WindowA, Container& ContainerA, InPlace& InPlaceA,
-            Extent& ExtentA)
-      : Part(IdentityA), mWindow(WindowA), mContainer(ContainerA), mInPlace(InPlaceA), mExtent(ExtentA) {}
+            Extent& ExtentA, DataObject& DataA)
+      : Part(IdentityA),
+        mWindow(WindowA),
+        mContainer(ContainerA),
+        mInPlace(InPlaceA),
+        mExtent(ExtentA),
+        mData(DataA) {}
 
   STDMETHODIMP SetClientSite(IOleClientSite* SiteA) noexcept override;
   STDMETHODIMP GetClientSite(IOleClientSite** ResultA) noexcept override;
@@ -45,6 +51,7 @@ class OleObject final : public Part<IOleObject> {
   Container& mContainer;
   InPlace& mInPlace;
   Extent& mExtent;
+  DataObject& mData;
   Ref<IOleAdviseHolder> mAdvised;  // made for the first one
 };
 
