@@ -33,7 +33,9 @@ Member::Parameter ParameterOf(ITypeInfo& DescriptionA, const ELEMDESC& ElementA)
   const USHORT flags = ElementA.paramdesc.wParamFlags;
   parameter.isOptional = (flags & PARAMFLAG_FOPT) != 0;
   if (flags & PARAMFLAG_FHASDEFAULT) parameter.preset = &ElementA.paramdesc.pparamdescex->varDefaultValue;
-  if (ElementA.tdesc.vt != VT_PTR) return parameter;
+  // The only types of our own that are passed by value are enumerations.
+  parameter.type = ElementA.tdesc.vt == VT_USERDEFINED ? VARTYPE{VT_I4} : ElementA.tdesc.vt;
+  if (parameter.type != VT_PTR) return parameter;
   const TYPEDESC* target = ElementA.tdesc.lptdesc;
   parameter.kind = target->vt == VT_PTR       ? ParameterKind::ObjectReference
                    : target->vt == VT_VARIANT ? ParameterKind::VariantReference

@@ -20,6 +20,7 @@ enum class ParameterKind {
 struct Member {
   struct Parameter {
     ParameterKind kind = ParameterKind::Plain;
+    VARTYPE type = VT_VARIANT;  // of plain ones
     IID interfaceId{};
     bool isOptional = false;
     const VARIANT* preset = nullptr;  // its default value, kept by the type library

@@ -32,6 +32,11 @@ bool NamesAreKnown(const Member& MemberA, const DISPPARAMS& GivenA) {
   return true;
 }
 
+// What the platform cannot even read is of no type that an argument may have.
+HRESULT RefusalOf(HRESULT ResultA) {
+  return ResultA == E_INVALIDARG ? DISP_E_BADVARTYPE : ResultA;
+}
+
 }  // namespace
 
 HRESULT PreparedCall::Prepare(const Member& MemberA, const DISPPARAMS& GivenA, UINT* WrongA) {
@@ -46,7 +51,7 @@ HRESULT PreparedCall::Prepare(const Member& MemberA, const DISPPARAMS& GivenA, U
     const VARIANT* given = index < GivenA.cArgs ? &GivenA.rgvarg[index] : nullptr;
     const HRESULT result = Take(MemberA.parameters[place], given, place);
     if (FAILED(result)) {
-      if (WrongA) *WrongA = index;
+      if (WrongA && given) *WrongA = index;
       return result;
     }
     if (V_VT(&mPassed[place]) == VT_EMPTY) mPassed[place] = mOwned[place].Get();
@@ -69,7 +74,11 @@ HRESULT PreparedCall::Take(const Member::Parameter& ParameterA, const VARIANT* G
       return TakeObject(ParameterA, *GivenA, PlaceA);
     case ParameterKind::BooleanReference:
       return TakeBoolean(*GivenA, PlaceA);
-    default:
+    case ParameterKind::Plain:
+      // Converted here: not every platform's Invoke tells which argument it refused.
+      if (ParameterA.type == VT_VARIANT) break;
+      return RefusalOf(VariantChangeType(&mOwned[PlaceA], ForReading(GivenA), 0, ParameterA.type));
+    case ParameterKind::VariantReference:
       break;
   }
   const HRESULT result = VariantCopyInd(&mOwned[PlaceA], ForReading(GivenA));
@@ -112,7 +121,7 @@ HRESULT PreparedCall::TakeObject(const Member::Parameter& ParameterA, const VARI
 
 HRESULT PreparedCall::TakeBoolean(const VARIANT& GivenA, std::size_t PlaceA) {
   const HRESULT result = VariantChangeType(&mOwned[PlaceA], ForReading(&GivenA), 0, VT_BOOL);
-  if (FAILED(result)) return result;
+  if (FAILED(result)) return RefusalOf(result);
   mReferred[PlaceA].boolean = V_BOOL(&mOwned[PlaceA].Get());
   V_VT(&mPassed[PlaceA]) = VT_BOOL | VT_BYREF;
   V_BOOLREF(&mPassed[PlaceA]) = &mReferred[PlaceA].boolean;

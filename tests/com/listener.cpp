@@ -3,12 +3,17 @@
 namespace mur::test {
 namespace {
 
+// Objects of scripts need not have one that can be read.
+std::string KeyOf(const Late& ObjectA) {
+  const Outcome key = ObjectA.Try(L"Key", DISPATCH_PROPERTYGET);
+  return SUCCEEDED(key.result) ? ToUtf8(key.value.Text()) : "an object";
+}
+
 std::string ArgumentText(const VARIANT& ArgumentA) {
   Value value;
   VariantCopyInd(&value, const_cast<VARIANT*>(&ArgumentA));
   if (value.Type() == VT_BSTR) return '"' + ToUtf8(value.Text()) + '"';
-  if (value.Type() == VT_DISPATCH)
-    return value.Object() ? ToUtf8(Late(value).Get(L"Key").Text()) : std::string("nothing");
+  if (value.Type() == VT_DISPATCH) return value.Object() ? KeyOf(Late(value)) : "nothing";
   char text[32];
   std::snprintf(text, sizeof text, "%.15g", value.Number());
   return text;

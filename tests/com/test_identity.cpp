@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+
 #include "tests/com/late.h"
 
 namespace mur::test {

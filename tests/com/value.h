@@ -30,6 +30,7 @@ class Value {
   Value(float ValueA) noexcept;
   Value(double ValueA) noexcept;
   Value(const wchar_t* TextA) : Value(std::wstring_view(TextA)) {}
+  Value(const std::wstring& TextA) : Value(std::wstring_view(TextA)) {}
   Value(std::wstring_view TextA);
   Value(IDispatch* ObjectA) noexcept;
   template <std::derived_from<IDispatch> T>
@@ -45,7 +46,10 @@ class Value {
   /// Any type; all bits of the content but its type are 0.
   static Value Blank(VARTYPE TypeA) noexcept;
 
-  Value(const Value& OtherA) : Value() { VariantCopy(&mValue, const_cast<VARIANT*>(&OtherA.mValue)); }
+  /// What the platform cannot copy has nothing to be owned.
+  Value(const Value& OtherA) : Value() {
+    if (FAILED(VariantCopy(&mValue, const_cast<VARIANT*>(&OtherA.mValue)))) mValue = OtherA.mValue;
+  }
   Value(Value&& OtherA) noexcept : mValue(OtherA.mValue) { VariantInit(&OtherA.mValue); }
   Value& operator=(Value OtherA) noexcept {
     std::swap(mValue, OtherA.mValue);
