@@ -12,7 +12,4 @@ namespace mur::test {
 /// its flags.
 std::vector<std::string> LinesOf(ITypeLib& LibraryA);
 
-/// How two texts differ: lines that only the first has begin with a minus, those of the second with a plus.
-std::string Difference(const std::vector<std::string>& ExpectedA, const std::vector<std::string>& MetA);
-
 }  // namespace mur::test

@@ -5,6 +5,7 @@
 
 #include "tests/com/late.h"
 #include "tests/com/library_text.h"
+#include "tests/com/line_difference.h"
 
 namespace mur::test {
 namespace {
