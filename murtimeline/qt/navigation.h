@@ -6,10 +6,10 @@
 
 #include <murtimeline/qt/hosted_child.h>
 #include <murtimeline/qt/row_scroller.h>
-#include <murtimeline/render/visible_range.h>
 #include <murtimeline/qt/wheel_action.h>
 #include <murtimeline/render/companions/canvas.h>
 #include <murtimeline/render/timeline_render.h>
+#include <murtimeline/render/visible_range.h>
 
 class QMouseEvent;
 class QNativeGestureEvent;
