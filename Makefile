@@ -42,7 +42,6 @@ test-com: windows-packages ## build and run the tests of the COM server alone
 	@tools/run_tests win64 win32
 
 installer: com ## build/MURTimeline-VERSION-setup.exe
-	@tools/install-packages installer
 	@tools/make_installer
 
 bench-com: windows-packages ## what calls through COM cost, beside the same calls in C++
@@ -76,4 +75,4 @@ packages:
 	@tools/install-packages
 
 windows-packages:
-	@tools/install-packages com
+	@tools/install-packages com installer
