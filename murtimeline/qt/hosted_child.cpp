@@ -33,32 +33,17 @@ Qt::CursorShape CursorOf(PointerShape ShapeA) {
 
 }  // namespace
 
-void HostedChild::SetHeight(float HeightA) {
-  Place(mLeft, mTop, mWidth, HeightA);
-}
-
-void HostedChild::Move(float LeftA, std::optional<float> TopA, std::optional<float> WidthA,
-                       std::optional<float> HeightA) {
-  Place(LeftA, TopA.value_or(mTop), WidthA.value_or(mWidth), HeightA.value_or(mHeight));
-}
-
-// What is told at the end may end this object, too.
-void HostedChild::Place(float LeftA, float TopA, float WidthA, float HeightA) {
-  const bool resized = WidthA != mWidth || HeightA != mHeight;
-  mLeft = LeftA;
-  mTop = TopA;
-  mWidth = WidthA;
-  mHeight = HeightA;
+void HostedChild::Placed(bool IsResizedA) {
   if (mWidget && mMovesWidget) mWidget->setGeometry(PixelPlace());
-  if (resized && mResized) mResized();
+  if (IsResizedA && mResized) mResized();
 }
 
 QRect HostedChild::PixelPlace() const {
   const auto edge = [](float start, float extent) {
     return NearestPixel(static_cast<double>(start) + static_cast<double>(extent));
   };
-  const int left = edge(mLeft, 0), top = edge(mTop, 0);
-  return {left, top, std::max(edge(mLeft, mWidth) - left, 0), std::max(edge(mTop, mHeight) - top, 0)};
+  const int left = edge(Left(), 0), top = edge(Top(), 0);
+  return {left, top, std::max(edge(Left(), Width()) - left, 0), std::max(edge(Top(), Height()) - top, 0)};
 }
 
 // Rounded outwards to the grid of logical pixels, and one further where that is not the grid of the device.

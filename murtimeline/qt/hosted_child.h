@@ -7,27 +7,17 @@
 
 #include <murtimeline/automation/export.h>
 #include <murtimeline/automation/object.h>
-#include <murtimeline/render/port/child_host.h>
+#include <murtimeline/render/port/placed_child.h>
 
 namespace mur::qt {
 
 /// One child control on a widget. Extents are kept as they were given, in twips; only the widget's own
 /// geometry is rounded, edge by edge, so that neighbours touch and nothing drifts. It belongs to its
 /// companion as that one's face, so it may outlive the widget.
-class MUR_API HostedChild final : public ChildHost, public HostFace {
+class MUR_API HostedChild final : public PlacedChild, public HostFace {
  public:
   explicit HostedChild(QWidget& WidgetA) : mWidget(&WidgetA) {}
 
-  float Left() const override { return mLeft; }
-  float Top() const override { return mTop; }
-  float Width() const override { return mWidth; }
-  float Height() const override { return mHeight; }
-  void SetHeight(float HeightA) override;
-  void Move(float LeftA, std::optional<float> TopA = {}, std::optional<float> WidthA = {},
-            std::optional<float> HeightA = {}) override;
-
-  String ToolTipText() const override { return mToolTipText; }
-  void SetToolTipText(StringView TextA) override { mToolTipText = TextA; }
   void Invalidate(const RectF& RectA) override;
   void InvalidateAll() override;
   void SetPointerShape(PointerShape ShapeA) override;
@@ -48,11 +38,9 @@ class MUR_API HostedChild final : public ChildHost, public HostFace {
 
  private:
   void ShowShape();
-  void Place(float LeftA, float TopA, float WidthA, float HeightA);
+  void Placed(bool IsResizedA) override;
 
   QPointer<QWidget> mWidget;
-  float mLeft = 0, mTop = 0, mWidth = 0, mHeight = 0;
-  String mToolTipText;
   std::function<void()> mResized;
   std::function<void()> mInvalidated;
   PointerShape mShape = PointerShape::Standard;

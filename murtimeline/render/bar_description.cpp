@@ -3,11 +3,10 @@
 #include <murtimeline/automation/regional.h>
 #include <murtimeline/render/bar_description.h>
 #include <murtimeline/render/object_walks.h>
+#include <murtimeline/render/render_state.h>
 
 namespace mur {
 namespace {
-
-constexpr double kFramesPerSecond = 25.0;
 
 String TimeText(const MURTimelineRender& ControlA, Date TimeA) {
   const String format = ControlA.FormatString();

@@ -29,24 +29,9 @@ LPCWSTR NameOf(PointerShape ShapeA) {
 
 }  // namespace
 
-void HostedChild::SetHeight(float HeightA) {
-  Place(mLeft, mTop, mWidth, HeightA);
-}
-
-void HostedChild::Move(float LeftA, std::optional<float> TopA, std::optional<float> WidthA,
-                       std::optional<float> HeightA) {
-  Place(LeftA, TopA.value_or(mTop), WidthA.value_or(mWidth), HeightA.value_or(mHeight));
-}
-
-// What is told at the end may end this object, too.
-void HostedChild::Place(float LeftA, float TopA, float WidthA, float HeightA) {
-  const bool resized = WidthA != mWidth || HeightA != mHeight;
-  mLeft = LeftA;
-  mTop = TopA;
-  mWidth = WidthA;
-  mHeight = HeightA;
+void HostedChild::Placed(bool IsResizedA) {
   MoveWindowToPlace();
-  if (resized) Tell(mResized);
+  if (IsResizedA) Tell(mResized);
 }
 
 void HostedChild::MoveWindowToPlace() const {
@@ -61,8 +46,8 @@ RECT HostedChild::DevicePlace() const {
     const double twips = static_cast<double>(start) + static_cast<double>(extent);
     return Whole(std::round(twips / static_cast<double>(kTwipsPerPixel) * mScale));
   };
-  const LONG left = edge(mLeft, 0), top = edge(mTop, 0);
-  return {left, top, std::max(edge(mLeft, mWidth), left), std::max(edge(mTop, mHeight), top)};
+  const LONG left = edge(Left(), 0), top = edge(Top(), 0);
+  return {left, top, std::max(edge(Left(), Width()), left), std::max(edge(Top(), Height()), top)};
 }
 
 void HostedChild::SetWindow(HWND WindowA) {

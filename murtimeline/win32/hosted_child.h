@@ -3,25 +3,15 @@
 #include <functional>
 #include <optional>
 
-#include <murtimeline/render/port/child_host.h>
+#include <murtimeline/render/port/placed_child.h>
 #include <murtimeline/win32/platform.h>
 
 namespace mur::win32 {
 
 /// One child control in a window of its own, and without one. Extents are kept as they were given, in twips;
 /// only the window's place is rounded, edge by edge, so that neighbours touch and nothing drifts.
-class HostedChild final : public ChildHost {
+class HostedChild final : public PlacedChild {
  public:
-  float Left() const override { return mLeft; }
-  float Top() const override { return mTop; }
-  float Width() const override { return mWidth; }
-  float Height() const override { return mHeight; }
-  void SetHeight(float HeightA) override;
-  void Move(float LeftA, std::optional<float> TopA = {}, std::optional<float> WidthA = {},
-            std::optional<float> HeightA = {}) override;
-
-  String ToolTipText() const override { return mToolTipText; }
-  void SetToolTipText(StringView TextA) override { mToolTipText = TextA; }
   void Invalidate(const RectF& RectA) override;
   void InvalidateAll() override;
   void SetPointerShape(PointerShape ShapeA) override;
@@ -44,13 +34,11 @@ class HostedChild final : public ChildHost {
   void SetInvalidated(std::function<void()> InvalidatedA) { mInvalidated = std::move(InvalidatedA); }
 
  private:
-  void Place(float LeftA, float TopA, float WidthA, float HeightA);
+  void Placed(bool IsResizedA) override;
   void MoveWindowToPlace() const;
 
   HWND mWindow = nullptr;
   double mScale = 1;
-  float mLeft = 0, mTop = 0, mWidth = 0, mHeight = 0;
-  String mToolTipText;
   PointerShape mShape = PointerShape::Standard;
   std::function<void()> mResized;
   std::function<void()> mInvalidated;

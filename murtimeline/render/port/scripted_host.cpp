@@ -17,14 +17,6 @@ constexpr std::array<Rgba, 31> kClassicColors = {{
 
 }  // namespace
 
-void ScriptedChild::Move(float LeftA, std::optional<float> TopA, std::optional<float> WidthA,
-                         std::optional<float> HeightA) {
-  mLeft = LeftA;
-  mTop = TopA.value_or(mTop);
-  mWidth = WidthA.value_or(mWidth);
-  mHeight = HeightA.value_or(mHeight);
-}
-
 Rgba ScriptedChild::SystemColor(int IndexA) const {
   if (IndexA < 0 || static_cast<std::size_t>(IndexA) >= kClassicColors.size()) return {};
   return kClassicColors[static_cast<std::size_t>(IndexA)];

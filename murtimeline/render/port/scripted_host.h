@@ -5,23 +5,14 @@
 
 #include <murtimeline/automation/export.h>
 #include <murtimeline/render/port/control_host.h>
+#include <murtimeline/render/port/placed_child.h>
 
 namespace mur {
 
 /// A child control in memory: it keeps its extent and tool tip and notes what was invalidated. Its palette is
 /// the classic one.
-class MUR_API ScriptedChild final : public ChildHost {
+class MUR_API ScriptedChild final : public PlacedChild {
  public:
-  float Left() const override { return mLeft; }
-  float Top() const override { return mTop; }
-  float Width() const override { return mWidth; }
-  float Height() const override { return mHeight; }
-  void SetHeight(float HeightA) override { mHeight = HeightA; }
-  void Move(float LeftA, std::optional<float> TopA = {}, std::optional<float> WidthA = {},
-            std::optional<float> HeightA = {}) override;
-
-  String ToolTipText() const override { return mToolTipText; }
-  void SetToolTipText(StringView TextA) override { mToolTipText = TextA; }
   void Invalidate(const RectF& RectA) override { mInvalidated.push_back(RectA); }
   void InvalidateAll() override { ++mInvalidatedAll; }
   void SetPointerShape(PointerShape ShapeA) override { mPointerShape = ShapeA; }
@@ -36,8 +27,6 @@ class MUR_API ScriptedChild final : public ChildHost {
   bool HasPointer() const { return mHasPointer; }
 
  private:
-  float mLeft = 0, mTop = 0, mWidth = 0, mHeight = 0;
-  String mToolTipText;
   std::vector<RectF> mInvalidated;
   std::size_t mInvalidatedAll = 0;
   PointerShape mPointerShape = PointerShape::Standard;
