@@ -8,10 +8,11 @@ BENCH := $(RELEASE)/bin/mur_bench
 WINDOWS := build/win64 build/win32
 
 .DEFAULT_GOAL := help
-.PHONY: help demo picture test test-com viewer com installer bench bench-com format check coverage packages windows-packages
+.PHONY: help demo picture test test-com test-lazarus viewer com installer bench bench-com format check coverage \
+  packages windows-packages
 
 help: ## this list
-	@awk -F ': .*## ' '/^[a-z-]+: .*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
+	@awk -F ': .*## ' '/^[a-z-]+: .*## / { printf "  make %-12s %s\n", $$1, $$2 }' Makefile
 
 demo: viewer ## show SAMPLE in the viewer; without a display, write the picture PICTURE
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
@@ -40,6 +41,10 @@ com: windows-packages ## build the COM server for Windows: build/win64/bin and b
 
 test-com: windows-packages ## build and run the tests of the COM server alone
 	@tools/run_tests win64 win32
+
+test-lazarus: com ## show the control in the container of Lazarus, from its sources; not part of `make test`
+	@[ -n "$$MUR_LAZARUS_SOURCES" ] || tools/install-packages lazarus
+	@examples/lazarus_container/test build/win64/bin/MURTimeline.ocx build/lazarus
 
 installer: com ## build/MURTimeline-VERSION-setup.exe
 	@tools/make_installer

@@ -1,4 +1,5 @@
-{ Prints the Pascal unit for a type library: import_library FILE }
+{ Prints the Pascal unit for a type library: import_library FILE [--components]. With the option its classes are
+  components for the container of Lazarus. }
 program import_library;
 
 {$mode objfpc}{$H+}
@@ -13,6 +14,7 @@ begin
   importer := TTypeLibImporter.Create(nil);
   try
     importer.InputFileName := WideString(ParamStr(1));
+    importer.ActiveX := ParamStr(2) = '--components';
     importer.Execute;
     { Nothing of the platform's own library is used, and its unit is not at hand. }
     for found := 0 to importer.UnitSource.Count - 1 do
