@@ -83,7 +83,8 @@ void BarKeyboard::TakeUp(const Ref<ICanvasItem>& ItemA) {
 
 void BarKeyboard::Focus(const Ref<ICanvasItem>& ItemA) {
   const Ref<BarKeyboard> keep(this);
-  const Ref<ICanvasItem> item = ItemA;
+  // What was given may be a reference that a listener changes.
+  const Ref<ICanvasItem> item(ItemA.Get());
   const bool isOther = !(mCurrent == item);
   mCurrent = item;
   mCanvas->SetFocusedItem(item);
