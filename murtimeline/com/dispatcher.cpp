@@ -1,6 +1,4 @@
 #include <algorithm>
-#include <map>
-#include <mutex>
 
 #include <murtimeline/com/dispatcher.h>
 #include <murtimeline/com/guard.h>
@@ -16,14 +14,13 @@ bool IsCallable(const FUNCDESC& FunctionA) {
   return !(FunctionA.wFuncFlags & FUNCFLAG_FRESTRICTED) || FunctionA.memid == DISPID_NEWENUM;
 }
 
-IID InterfaceOf(ITypeInfo& DescriptionA, HREFTYPE ReferenceA, TYPEKIND* KindA) {
+IID InterfaceOf(ITypeInfo& DescriptionA, HREFTYPE ReferenceA) {
   ITypeInfo* found = nullptr;
   RequireSuccess(DescriptionA.GetRefTypeInfo(ReferenceA, &found));
   const auto type = TakeOver(found);
   TYPEATTR* attributes = nullptr;
   RequireSuccess(type->GetTypeAttr(&attributes));
   const IID result = attributes->guid;
-  *KindA = attributes->typekind;
   type->ReleaseTypeAttr(attributes);
   return result;
 }
@@ -42,9 +39,7 @@ Member::Parameter ParameterOf(ITypeInfo& DescriptionA, const ELEMDESC& ElementA)
                    : target->vt == VT_BOOL    ? ParameterKind::BooleanReference
                                               : ParameterKind::Object;
   if (target->vt == VT_PTR) target = target->lptdesc;
-  TYPEKIND kind{};
-  if (target->vt == VT_USERDEFINED)
-    parameter.interfaceId = InterfaceOf(DescriptionA, target->hreftype, &kind);
+  if (target->vt == VT_USERDEFINED) parameter.interfaceId = InterfaceOf(DescriptionA, target->hreftype);
   return parameter;
 }
 
@@ -56,7 +51,7 @@ struct ById {
 
 }  // namespace
 
-Dispatcher::Dispatcher(const IID& InterfaceA) : mInterface(InterfaceA) {
+Dispatcher::Dispatcher(const IID& InterfaceA) {
   ITypeInfo* found = nullptr;
   RequireSuccess(TypeInfoOf(InterfaceA, &found));
   mDescription = TakeOver(found);
@@ -75,17 +70,6 @@ Dispatcher::Dispatcher(const IID& InterfaceA) : mInterface(InterfaceA) {
     mMembers.push_back(std::move(member));
   }
   std::stable_sort(mMembers.begin(), mMembers.end(), ById());
-}
-
-const Dispatcher& Dispatcher::For(const IID& InterfaceA) {
-  // Never destroyed: the platform may be gone by then.
-  static std::mutex& sMutex = *new std::mutex;
-  static auto& sKnown = *new std::vector<const Dispatcher*>;
-  const std::lock_guard lock(sMutex);
-  for (const Dispatcher* known : sKnown)
-    if (known->mInterface == InterfaceA) return *known;
-  sKnown.push_back(new Dispatcher(InterfaceA));
-  return *sKnown.back();
 }
 
 const Member* Dispatcher::Find(DISPID IdA, WORD WaysA) const noexcept {
@@ -145,14 +129,14 @@ HRESULT GetTypeInfo(const IID& InterfaceA, UINT IndexA, ITypeInfo** ResultA) noe
   return IndexA == 0 ? TypeInfoOf(InterfaceA, ResultA) : DISP_E_BADINDEX;
 }
 
-HRESULT GetIDsOfNames(const IID& InterfaceA, IDispatch& SelfA, REFIID ReservedA, LPOLESTR* NamesA,
-                      UINT CountA, LCID LocaleA, DISPID* ResultA) noexcept {
+HRESULT GetIDsOfNames(DispatcherOf OwnA, IDispatch& SelfA, REFIID ReservedA, LPOLESTR* NamesA, UINT CountA,
+                      LCID LocaleA, DISPID* ResultA) noexcept {
   if (ReservedA != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
   if (!NamesA || !ResultA) return E_POINTER;
   if (CountA == 0) return E_INVALIDARG;
   HRESULT result = DISP_E_UNKNOWNNAME;
   const HRESULT guarded = Guarded([&] {
-    const Dispatcher& own = Dispatcher::For(InterfaceA);
+    const Dispatcher& own = OwnA();
     result = own.IdsOfNames(NamesA, CountA, ResultA);
     if (result != DISP_E_UNKNOWNNAME) return;
     const auto standard = DefaultOf(SelfA);
@@ -164,14 +148,14 @@ HRESULT GetIDsOfNames(const IID& InterfaceA, IDispatch& SelfA, REFIID ReservedA,
   return FAILED(guarded) ? guarded : result;
 }
 
-HRESULT Invoke(const IID& InterfaceA, IDispatch& SelfA, DISPID IdA, REFIID ReservedA, LCID LocaleA,
-               WORD WaysA, DISPPARAMS* GivenA, VARIANT* ResultA, EXCEPINFO* ErrorA, UINT* WrongA) noexcept {
+HRESULT Invoke(DispatcherOf OwnA, IDispatch& SelfA, DISPID IdA, REFIID ReservedA, LCID LocaleA, WORD WaysA,
+               DISPPARAMS* GivenA, VARIANT* ResultA, EXCEPINFO* ErrorA, UINT* WrongA) noexcept {
   if (ReservedA != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
   if (!GivenA) return E_POINTER;
   SetErrorInfo(0, nullptr);
   HRESULT result = DISP_E_MEMBERNOTFOUND;
   const HRESULT guarded = Guarded([&] {
-    const Dispatcher& own = Dispatcher::For(InterfaceA);
+    const Dispatcher& own = OwnA();
     if (const Member* member = own.Find(IdA, WaysA)) {
       // A call may let the last reference go.
       const Ref<IDispatch> keep(&SelfA);

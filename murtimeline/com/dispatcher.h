@@ -33,10 +33,14 @@ struct Member {
 /// Late-bound calls of one published interface, by its description in the type library.
 class Dispatcher {
  public:
-  /// The one for that interface, made on first use and kept. Throws ComFailure where the library is missing.
-  static const Dispatcher& For(const IID& InterfaceA);
+  /// The one for that interface, made on first use and kept to the end, when the platform may be gone. Throws
+  /// ComFailure where the library is missing.
+  template <class Interface>
+  static const Dispatcher& For() {
+    static const Dispatcher& sKept = *new Dispatcher(__uuidof(Interface));
+    return sKept;
+  }
 
-  ITypeInfo& Description() const noexcept { return *mDescription; }
   /// The member that such a call means; null when there is none. Calls by the wrong one of two ways are
   /// taken: engines get by METHOD, and some put objects by PROPERTYPUT.
   const Member* Find(DISPID IdA, WORD WaysA) const noexcept;
@@ -53,18 +57,18 @@ class Dispatcher {
 
   explicit Dispatcher(const IID& InterfaceA);
 
-  const IID mInterface;
   Ref<ITypeInfo> mDescription;
   std::vector<Member> mMembers;  // by id
 };
 
 /// The four methods of IDispatch, for DispatchOn.
 namespace dispatch {
+using DispatcherOf = const Dispatcher& (*)();
 HRESULT GetTypeInfo(const IID& InterfaceA, UINT IndexA, ITypeInfo** ResultA) noexcept;
-HRESULT GetIDsOfNames(const IID& InterfaceA, IDispatch& SelfA, REFIID ReservedA, LPOLESTR* NamesA,
-                      UINT CountA, LCID LocaleA, DISPID* ResultA) noexcept;
-HRESULT Invoke(const IID& InterfaceA, IDispatch& SelfA, DISPID IdA, REFIID ReservedA, LCID LocaleA,
-               WORD WaysA, DISPPARAMS* GivenA, VARIANT* ResultA, EXCEPINFO* ErrorA, UINT* WrongA) noexcept;
+HRESULT GetIDsOfNames(DispatcherOf OwnA, IDispatch& SelfA, REFIID ReservedA, LPOLESTR* NamesA, UINT CountA,
+                      LCID LocaleA, DISPID* ResultA) noexcept;
+HRESULT Invoke(DispatcherOf OwnA, IDispatch& SelfA, DISPID IdA, REFIID ReservedA, LCID LocaleA, WORD WaysA,
+               DISPPARAMS* GivenA, VARIANT* ResultA, EXCEPINFO* ErrorA, UINT* WrongA) noexcept;
 }  // namespace dispatch
 
 /// A published interface with its late-bound half. A pointer of this type answers with the members of this
@@ -82,12 +86,13 @@ class DispatchOn : public Interface {
   }
   STDMETHODIMP GetIDsOfNames(REFIID ReservedA, LPOLESTR* NamesA, UINT CountA, LCID LocaleA,
                              DISPID* ResultA) noexcept final {
-    return dispatch::GetIDsOfNames(__uuidof(Interface), *this, ReservedA, NamesA, CountA, LocaleA, ResultA);
+    return dispatch::GetIDsOfNames(&Dispatcher::For<Interface>, *this, ReservedA, NamesA, CountA, LocaleA,
+                                   ResultA);
   }
   STDMETHODIMP Invoke(DISPID IdA, REFIID ReservedA, LCID LocaleA, WORD WaysA, DISPPARAMS* GivenA,
                       VARIANT* ResultA, EXCEPINFO* ErrorA, UINT* WrongA) noexcept final {
-    return dispatch::Invoke(__uuidof(Interface), *this, IdA, ReservedA, LocaleA, WaysA, GivenA, ResultA,
-                            ErrorA, WrongA);
+    return dispatch::Invoke(&Dispatcher::For<Interface>, *this, IdA, ReservedA, LocaleA, WaysA, GivenA,
+                            ResultA, ErrorA, WrongA);
   }
 
   /// This interface, when it is meant; IDispatch means whatever is asked first.

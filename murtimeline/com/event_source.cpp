@@ -42,7 +42,7 @@ void EventSource::FireAll(DISPID EventA, VARIANT* ArgumentsA, std::size_t CountA
   const Ref<IUnknown> keep(&mObject);
   std::reverse(ArgumentsA, ArgumentsA + CountA);
   for (const Listener& listener : *listeners) {
-    if (!IsConnected(listener.cookie)) continue;
+    if (mListeners != listeners && !IsConnected(listener.cookie)) continue;
     DISPPARAMS arguments{ArgumentsA, nullptr, static_cast<UINT>(CountA), 0};
     OwnVariant ignored;
     const HRESULT result = listener.sink->Invoke(EventA, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD,
