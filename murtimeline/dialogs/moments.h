@@ -1,6 +1,7 @@
 #pragma once
 
 #include <murtimeline/automation/date.h>
+#include <murtimeline/automation/export.h>
 #include <murtimeline/automation/string.h>
 
 namespace mur {
@@ -15,15 +16,15 @@ String MomentText(Date DayA, Date TimeA);
 Date ComposeMoment(Date DayA, Date TimeA);
 
 /// A moment as a calendar and a clock show it. The clock counts forward before the day zero, too.
-struct ClockReading {
+struct MUR_API ClockReading {
   double day = 0;           ///< whole days since 30 December 1899
   double milliseconds = 0;  ///< whole ones of the day
 };
 
 /// Throws Overflow outside the date range.
-ClockReading ReadClock(Date MomentA);
+MUR_API ClockReading ReadClock(Date MomentA);
 
 /// The moment that a calendar and a clock show so.
-Date MomentOf(const ClockReading& ReadingA);
+MUR_API Date MomentOf(const ClockReading& ReadingA);
 
 }  // namespace mur

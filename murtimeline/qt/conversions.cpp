@@ -1,12 +1,10 @@
-#include <cmath>
-
 #include <murtimeline/automation/narrow.h>
+#include <murtimeline/dialogs/moments.h>
 #include <murtimeline/qt/conversions.h>
 
 namespace mur::qt {
 namespace {
 
-constexpr qint64 kMillisecondsPerDay = 86'400'000;
 constexpr OleColor kSystemColorFlag = 0x80000000;
 
 QDate Epoch() {
@@ -56,21 +54,17 @@ String ToString(const QString& TextA) {
   return TextA.toStdU16String();
 }
 
-// The fraction of a date is its time of day, before the epoch too.
 QDateTime ToQDateTime(Date DateA) {
   if (!DateA.InRange()) return {};
-  const double days = std::trunc(DateA.Days());
-  const double time = std::fabs(DateA.Days() - days) * static_cast<double>(kMillisecondsPerDay);
-  const auto milliseconds = Narrow<qint64>(std::floor(time + 0.5));
-  const QDate day = Epoch().addDays(Narrow<qint64>(days) + milliseconds / kMillisecondsPerDay);
-  return {day, QTime::fromMSecsSinceStartOfDay(static_cast<int>(milliseconds % kMillisecondsPerDay))};
+  const ClockReading reading = ReadClock(DateA);
+  return {Epoch().addDays(Narrow<qint64>(reading.day)),
+          QTime::fromMSecsSinceStartOfDay(Narrow<int>(reading.milliseconds))};
 }
 
 Date ToDate(const QDateTime& TimeA) {
   if (TimeA.isNull()) return {};
-  const auto days = static_cast<double>(Epoch().daysTo(TimeA.date()));
-  const double time = TimeA.time().msecsSinceStartOfDay() / static_cast<double>(kMillisecondsPerDay);
-  return Date::Unchecked(days < 0 ? days - time : days + time);
+  return MomentOf({static_cast<double>(Epoch().daysTo(TimeA.date())),
+                   static_cast<double>(TimeA.time().msecsSinceStartOfDay())});
 }
 
 QColor ToQColor(OleColor ColorA) {
